@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/NoteName.h"
+
+namespace kestrova {
+
+namespace {
+
+// From this day on the day's character is a digit, and lower case marks the name as one of those.
+constexpr int kFirstDigitDay = 25;
+constexpr std::string_view kExtension = ".txt";
+
+} // namespace
+
+std::string GetFile(const SlotPlace& place) {
+    const bool late = place.Day >= kFirstDigitDay;
+    const int letter = late ? 'a' : 'A';
+    const int day = late ? place.Day + 25 : place.Day + 'A';
+    std::string name;
+    for (const int code : {place.Slot + letter, day, place.Month + letter, place.Year + letter}) {
+        name += static_cast<char>(code);
+    }
+    return name.append(kExtension);
+}
+
+bool IsNoteName(const std::string& name) {
+    if (name.size() != 4 + kExtension.size() || !name.ends_with(kExtension)) {
+        return false;
+    }
+    const bool late = name[1] >= '2' && name[1] <= '8';
+    const char letter = late ? 'a' : 'A';
+    const int day = late ? name[1] - 25 : name[1] - 'A';
+    const SlotPlace place(name[0] - letter, day, name[2] - letter, name[3] - letter);
+    return place.Slot >= 0 && place.Slot < kTableSlots && day >= 0 && day < kStoredDays &&
+           place.Month >= 0 && place.Month < kTableMonths && place.Year >= 0 &&
+           place.Year < kDiaryYears && GetFile(place) == name;
+}
+
+} // namespace kestrova

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/StringTable.h"
+#include "platform/FileStore.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrova {
+
+// A language of the fixed list: the name that block headings are compared with, and the caption of
+// its item in the language menu.
+struct FixedLanguage {
+    std::string_view Name;
+    std::string_view MenuCaption;
+};
+inline constexpr int kFixedLanguages = 8;
+[[nodiscard]] const std::array<FixedLanguage, kFixedLanguages>& FixedLanguages();
+
+// What the user may choose from, as the language file has it.
+struct LanguageChoices {
+    std::vector<std::string> Names; // of the blocks, in file order, untrimmed; "English" without one
+    std::array<bool, kFixedLanguages> Enabled{}; // items of the language menu
+    std::optional<int> Checked;                  // the item of the language in use
+};
+
+// The choice of language: reads "Lan.dat" and fills the string table from it.
+class Languages {
+public:
+    // `path` is that of the language file; the table is written when a language is loaded.
+    Languages(const FileStore& files, std::string path, StringTable& table)
+        : files_(files), path_(std::move(path)), table_(table) {}
+
+    // Reads the choices and loads the block of this index, which is set to 0 when that block is
+    // damaged. A file that is missing, unreadable or holds no whole block gives the built-in
+    // English; an index without a block leaves the texts as they are.
+    void GetLanguage(int& languageIndex);
+
+    // Loads the block of this index after the user has picked it, by the same rules.
+    void ChangeLanguage(int& languageIndex);
+
+    [[nodiscard]] const LanguageChoices& Choices() const { return choices_; }
+
+private:
+    void LoadLanguage(std::string_view bytes, int& languageIndex);
+    void Check(int languageIndex);
+
+    const FileStore& files_;
+    std::string path_;
+    StringTable& table_;
+    LanguageChoices choices_;
+};
+
+} // namespace kestrova

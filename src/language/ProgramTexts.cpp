@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/ProgramTexts.h"
+
+#include <array>
+
+namespace kestrova {
+
+namespace {
+
+constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Count)> kEnglish = {
+    "Diary Busy",
+    "Year ?",
+    "This day holds ten events already. Delete one before adding another.",
+    "There is nothing to undo.",
+    "The computer's clock shows the year %1, which is before the year of your diary. Check the "
+    "date: until it is right, no reminders are given.",
+    "Try Again",
+    "Close Kestrova",
+    "&File",
+    "&Month",
+    "&Week Start",
+    "&Language",
+    "&View",
+    "&Current Month",
+    "&Previous Month",
+    "&Next Month",
+    "&Year ...",
+    "&Full Screen",
+    "&Half Screen",
+    "&Repeat Mode",
+    "Save Pictue",
+    "Change Pictur&e ...",
+    "&Settings",
+    "&Manual",
+    "&About",
+    "E&xit",
+    "&Delete Event",
+    "Delete &All Alike",
+    "&Undo Delete",
+    "&New Event",
+    "E&xit",
+    "Picture calendar and personal diary.\n\nFree software under the GNU General Public License, "
+    "version 3 or later.",
+    "The help page is not there: %1",
+    "Previous year",
+    "Next year",
+    "Today",
+    "Hour",
+    "Minute",
+    "Hide on the calendar",
+    "No events",
+};
+
+} // namespace
+
+std::string_view TextOf(ProgramText text) { return kEnglish[static_cast<std::size_t>(text)]; }
+
+std::string TextOf(ProgramText text, std::string_view value) {
+    constexpr std::string_view kPlace = "%1";
+    std::string result(TextOf(text));
+    if (const std::size_t at = result.find(kPlace); at != std::string::npos) {
+        result.replace(at, kPlace.size(), value);
+    }
+    return result;
+}
+
+} // namespace kestrova

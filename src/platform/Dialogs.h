@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace kestrova {
+
+enum class DialogIcon { None, Critical, Question };
+
+// A message box. Lines of the text are parted by '\n'.
+struct Message {
+    std::string Title;
+    std::string Text;
+    DialogIcon Icon = DialogIcon::None;
+};
+
+// Captions of the two answers; empty ones are the desktop's own "OK" and "Cancel".
+struct AnswerCaptions {
+    std::string Yes;
+    std::string No;
+};
+
+// The windows in which the program asks and tells. Each call returns when the user has answered;
+// events, the timer's included, go on meanwhile.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+
+    virtual void Show(const Message& message) = 0;
+
+    // True for the first answer. Closing the window is the second.
+    virtual bool Ask(const Message& message, const AnswerCaptions& captions) = 0;
+
+    // One line of text. Nothing when the user cancels.
+    virtual std::optional<std::string> Input(const std::string& title, const std::string& prompt,
+                                             const std::string& offered) = 0;
+
+    // The path of an existing file. `folder` is where to begin (empty: wherever the desktop likes),
+    // `filter` is "Caption|*.a;*.b". Nothing when the user cancels.
+    virtual std::optional<std::string> OpenFile(const std::string& folder,
+                                                const std::string& filter) = 0;
+};
+
+} // namespace kestrova
