@@ -9,10 +9,6 @@ namespace {
 
 constexpr int kNextYear = 1;
 
-// The calendar repeats itself exactly after so many years, so a diary brought forward over more
-// than two such rounds (a clock gone wild) is no different for one round less.
-constexpr int kCalendarRound = 400;
-
 void MoveNextYearDown(EventList& events) {
     EachStoredSlot([&](const SlotPlace& place) {
         if (place.Year != 0) {
@@ -39,9 +35,6 @@ void YearUpdate(EventList& events, const StringTable& table, int newBaseYear) {
 }
 
 void BringForward(EventList& events, const StringTable& table, int fromYear, int toYear) {
-    while (toYear - fromYear > 2 * kCalendarRound) {
-        fromYear += kCalendarRound;
-    }
     for (int year = fromYear + 1; year <= toYear; ++year) {
         YearUpdate(events, table, year);
     }

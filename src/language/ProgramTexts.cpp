@@ -11,7 +11,9 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Cou
     "Diary Busy",
     "Year ?",
     "This day holds ten events already. Delete one before adding another.",
-    "There is nothing to undo.",
+    "The event being edited has not been saved.",
+    "Save It",
+    "Leave It as It Was",
     "The computer's clock shows the year %1, which is before the year of your diary. Check the "
     "date: until it is right, no reminders are given.",
     "Try Again",
@@ -20,7 +22,6 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Cou
     "&Month",
     "&Week Start",
     "&Language",
-    "&View",
     "&Current Month",
     "&Previous Month",
     "&Next Month",
@@ -44,11 +45,9 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Cou
     "The help page is not there: %1",
     "Previous year",
     "Next year",
-    "Today",
     "Hour",
     "Minute",
     "Hide on the calendar",
-    "No events",
 };
 
 } // namespace

@@ -13,7 +13,9 @@ enum class ProgramText {
     DiaryBusy,
     YearPrompt,
     DayFull,
-    NothingToUndo,
+    SaveEdit,
+    KeepEdit,
+    DropEdit,
     ClockBehind,
     Retry,
     CloseProgram,
@@ -21,7 +23,6 @@ enum class ProgramText {
     MenuMonth,
     MenuWeekStart,
     MenuLanguage,
-    MenuView,
     MenuThisMonth,
     MenuPreviousMonth,
     MenuNextMonth,
@@ -44,11 +45,9 @@ enum class ProgramText {
     NoHelp,
     PreviousYear,
     NextYear,
-    Today,
     EventHour,
     EventMinute,
     HideFromMonth,
-    NoEvents,
     Count
 };
 

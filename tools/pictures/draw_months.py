@@ -6,16 +6,37 @@ import argparse
 import io
 import pathlib
 
-from monthly import autumn, spring, summer, winter
+from monthly import (
+    april,
+    august,
+    december,
+    february,
+    january,
+    july,
+    june,
+    march,
+    may,
+    november,
+    october,
+    september,
+)
 
 HERE = pathlib.Path(__file__).resolve().parent
 IMAGES = HERE.parent.parent / "data" / "Images"
 
 MONTHS = {
-    "January": winter.january, "February": winter.february, "March": spring.march,
-    "April": spring.april, "May": spring.may, "June": summer.june,
-    "July": summer.july, "August": summer.august, "September": autumn.september,
-    "October": autumn.october, "November": autumn.november, "December": winter.december,
+    "January": january.january,
+    "February": february.february,
+    "March": march.march,
+    "April": april.april,
+    "May": may.may,
+    "June": june.june,
+    "July": july.july,
+    "August": august.august,
+    "September": september.september,
+    "October": october.october,
+    "November": november.november,
+    "December": december.december,
 }
 LARGEST = 450 * 1000
 
@@ -32,10 +53,12 @@ def encode(image):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("months", nargs="*", metavar="MONTH",
-                        help="English month names; all twelve when left out")
-    parser.add_argument("--to", type=pathlib.Path, default=IMAGES,
-                        help="folder to write to (default: data/Images)")
+    parser.add_argument(
+        "months", nargs="*", metavar="MONTH", help="English month names; all twelve when left out"
+    )
+    parser.add_argument(
+        "--to", type=pathlib.Path, default=IMAGES, help="folder to write to (default: data/Images)"
+    )
     options = parser.parse_args()
     unknown = set(options.months) - set(MONTHS)
     if unknown:

@@ -20,8 +20,13 @@ def smooth(ctx, points, closed=True):
     ctx.move_to(*points[0])
     for i in range(n if closed else n - 1):
         a, b, c, d = get(i - 1), get(i), get(i + 1), get(i + 2)
-        ctx.curve_to(b[0] + (c[0] - a[0]) / 6, b[1] + (c[1] - a[1]) / 6,
-                     c[0] - (d[0] - b[0]) / 6, c[1] - (d[1] - b[1]) / 6, *c)
+        ctx.curve_to(
+            b[0] + (c[0] - a[0]) / 6,
+            b[1] + (c[1] - a[1]) / 6,
+            c[0] - (d[0] - b[0]) / 6,
+            c[1] - (d[1] - b[1]) / 6,
+            *c
+        )
     if closed:
         ctx.close_path()
 

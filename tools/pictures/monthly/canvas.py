@@ -44,8 +44,7 @@ class Canvas:
         self.px[:] = ramp.array(t)
 
     def blend(self, value, alpha):
-        value = np.asarray(colour(value) if isinstance(value, (str, tuple)) else value,
-                           np.float32)
+        value = np.asarray(colour(value) if isinstance(value, (str, tuple)) else value, np.float32)
         alpha = alpha[..., None]
         self.px += (value - self.px) * alpha
 
@@ -59,7 +58,7 @@ class Canvas:
 
     def glow(self, x, y, radius, value, strength, squash=1.0):
         """Light spreading from a point: bright core, long soft tail."""
-        d2 = ((XX - x) ** 2 + ((YY - y) * squash) ** 2) / radius ** 2
+        d2 = ((XX - x) ** 2 + ((YY - y) * squash) ** 2) / radius**2
         self.screen(value, strength * (0.65 * np.exp(-d2 * 2.2) + 0.35 / (1 + d2 * 3) ** 2))
 
     def put(self, layer, opacity=1.0, soft=0, mask=None):

@@ -22,9 +22,10 @@ def fbm2(rng, height, width, cell_y, cell_x, octaves=4, gain=0.5):
     total = np.zeros((height, width), np.float32)
     weight, amount = 0.0, 1.0
     for octave in range(octaves):
-        part = 2 ** octave
-        total += amount * value2(rng, height, width,
-                                 max(1.0, cell_y / part), max(1.0, cell_x / part))
+        part = 2**octave
+        total += amount * value2(
+            rng, height, width, max(1.0, cell_y / part), max(1.0, cell_x / part)
+        )
         weight += amount
         amount *= gain
     return total / weight
@@ -35,9 +36,8 @@ def ridged2(rng, height, width, cell_y, cell_x, octaves=4, gain=0.5):
     total = np.zeros((height, width), np.float32)
     weight, amount = 0.0, 1.0
     for octave in range(octaves):
-        part = 2 ** octave
-        field = value2(rng, height, width,
-                       max(1.0, cell_y / part), max(1.0, cell_x / part))
+        part = 2**octave
+        field = value2(rng, height, width, max(1.0, cell_y / part), max(1.0, cell_x / part))
         total += amount * (1 - np.abs(2 * field - 1))
         weight += amount
         amount *= gain
@@ -49,7 +49,7 @@ def line(rng, length, cell, octaves=4, gain=0.5):
     x = np.arange(length, dtype=float)
     total, weight, amount = np.zeros(length), 0.0, 1.0
     for octave in range(octaves):
-        size = cell / 2 ** octave
+        size = cell / 2**octave
         if size < 1.5:
             break
         nodes = rng.random(int(length / size) + 5) * 2 - 1
@@ -57,8 +57,9 @@ def line(rng, length, cell, octaves=4, gain=0.5):
         i = place.astype(int)
         f = place - i
         a, b, c, d = nodes[i], nodes[i + 1], nodes[i + 2], nodes[i + 3]
-        total += amount * (b + 0.5 * f * (c - a + f * (
-            2 * a - 5 * b + 4 * c - d + f * (3 * (b - c) + d - a))))
+        total += amount * (
+            b + 0.5 * f * (c - a + f * (2 * a - 5 * b + 4 * c - d + f * (3 * (b - c) + d - a)))
+        )
         weight += amount
         amount *= gain
     return total / weight

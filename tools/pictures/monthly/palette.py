@@ -3,17 +3,25 @@
 
 import numpy as np
 
-_TO_LMS = np.array([[0.4122214708, 0.5363325363, 0.0514459929],
-                    [0.2119034982, 0.6806995451, 0.1073969566],
-                    [0.0883024619, 0.2817188376, 0.6299787005]])
-_TO_LAB = np.array([[0.2104542553, 0.7936177850, -0.0040720468],
-                    [1.9779984951, -2.4285922050, 0.4505937099],
-                    [0.0259040371, 0.7827717662, -0.8086757660]])
+_TO_LMS = np.array(
+    [
+        [0.4122214708, 0.5363325363, 0.0514459929],
+        [0.2119034982, 0.6806995451, 0.1073969566],
+        [0.0883024619, 0.2817188376, 0.6299787005],
+    ]
+)
+_TO_LAB = np.array(
+    [
+        [0.2104542553, 0.7936177850, -0.0040720468],
+        [1.9779984951, -2.4285922050, 0.4505937099],
+        [0.0259040371, 0.7827717662, -0.8086757660],
+    ]
+)
 
 
 def rgb(code):
     """The colour for "#rrggbb"."""
-    return tuple(int(code[i:i + 2], 16) / 255 for i in (1, 3, 5))
+    return tuple(int(code[i : i + 2], 16) / 255 for i in (1, 3, 5))
 
 
 def colour(value):
@@ -34,8 +42,7 @@ def _to_oklab(c):
 def _from_oklab(lab):
     lms = (lab @ np.linalg.inv(_TO_LAB).T) ** 3
     linear = np.clip(lms @ np.linalg.inv(_TO_LMS).T, 0, 1)
-    return np.where(linear <= 0.0031308, linear * 12.92,
-                    1.055 * linear ** (1 / 2.4) - 0.055)
+    return np.where(linear <= 0.0031308, linear * 12.92, 1.055 * linear ** (1 / 2.4) - 0.055)
 
 
 class Ramp:
@@ -75,7 +82,8 @@ class Ramp:
         """This ramp seen through air of the given colour."""
         other = colour(other)
         new = Ramp.__new__(Ramp)
-        new.table = (self.table * (1 - amount)
-                     + np.array(other, np.float32) * amount).astype(np.float32)
+        new.table = (self.table * (1 - amount) + np.array(other, np.float32) * amount).astype(
+            np.float32
+        )
         new._tuples = [tuple(map(float, row)) for row in new.table]
         return new

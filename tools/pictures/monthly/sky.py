@@ -49,9 +49,9 @@ def stars(canvas, count, bottom, tint="#ffffff", power=1.0, clear=()):
         light = (0.20 + 0.80 * rng.random() ** 2.2 + size * 0.5) * (1 - (y / bottom) ** 2.2) * power
         spread = 0.55 + size * 1.15
         x0, y0 = int(x), int(y)
-        ys, xs = np.mgrid[max(0, y0 - 6):y0 + 7, max(0, x0 - 6):x0 + 7]
-        spot = light * np.exp(-((xs - x) ** 2 + (ys - y) ** 2) / (2 * spread ** 2))
-        sheet[ys[0, 0]:ys[-1, 0] + 1, xs[0, 0]:xs[0, -1] + 1] += spot[:, :]
+        ys, xs = np.mgrid[max(0, y0 - 6) : y0 + 7, max(0, x0 - 6) : min(W, x0 + 7)]
+        spot = light * np.exp(-((xs - x) ** 2 + (ys - y) ** 2) / (2 * spread**2))
+        sheet[ys[0, 0] : ys[-1, 0] + 1, xs[0, 0] : xs[0, -1] + 1] += spot
         if size > 0.55:
             canvas.glow(x, y, 16, tint, 0.22 * light)
     canvas.screen(tint, np.clip(sheet, 0, 1))
@@ -67,8 +67,10 @@ def milky_way(canvas, start, end, width, tint, strength, count=2600):
     wave = noise.fbm2(rng, H, W, 260, 260, 4) - 0.5
     across = across + wave * width * 1.1
     cloud = noise.fbm2(rng, H, W, 120, 120, 6, 0.56)
-    band = np.exp(-(across / width) ** 2)
-    lanes = smoothstep(0.5, 0.66, noise.fbm2(rng, H, W, 90, 150, 5, 0.55)) * np.exp(-((across - width * 0.1) / (width * 0.5)) ** 2)
+    band = np.exp(-((across / width) ** 2))
+    lanes = smoothstep(0.5, 0.66, noise.fbm2(rng, H, W, 90, 150, 5, 0.55)) * np.exp(
+        -(((across - width * 0.1) / (width * 0.5)) ** 2)
+    )
     light = band * smoothstep(0.30, 0.80, cloud) * (1 - 0.75 * lanes)
     fade = smoothstep(max(y0, y1), max(y0, y1) - 330, YY)
     canvas.screen(tint, np.clip(light * fade, 0, 1) * strength)
@@ -80,20 +82,34 @@ def milky_way(canvas, start, end, width, tint, strength, count=2600):
     canvas.screen("#ffffff", sheet * 0.55 + noise.blur(sheet, 1) * 0.9)
 
 
-def streaks(canvas, tint, strength, top, bottom, cell=(26, 420), low=0.50, high=0.75,
-            tilt=0.0, octaves=5):
+def streaks(
+    canvas, tint, strength, top, bottom, cell=(26, 420), low=0.50, high=0.75, tilt=0.0, octaves=5
+):
     """Thin layered cloud between two heights."""
     rng = canvas.rng
     field = noise.fbm2(rng, H + 400, W, cell[0], cell[1], octaves, 0.52)
-    rows = np.clip(YY + 200 + tilt * (XX - W / 2) + 14 * np.sin(XX / 310), 0, H + 399).astype(np.int32)
+    rows = np.clip(YY + 200 + tilt * (XX - W / 2) + 14 * np.sin(XX / 310), 0, H + 399).astype(
+        np.int32
+    )
     field = np.take_along_axis(field, rows, axis=0)
     middle, half = (top + bottom) / 2, (bottom - top) / 2
     band = np.clip(1 - np.abs((YY - middle) / half) ** 2.2, 0, 1)
     canvas.blend(tint, smoothstep(low, high, field) * band * strength)
 
 
-def cumulus(canvas, x, base, width, height, lit, shade, light=(-0.55, -0.75), opacity=1.0,
-            puffs=34, ragged=0.34):
+def cumulus(
+    canvas,
+    x,
+    base,
+    width,
+    height,
+    lit,
+    shade,
+    light=(-0.55, -0.75),
+    opacity=1.0,
+    puffs=34,
+    ragged=0.34,
+):
     """One heaped cloud, modelled as a bank of spheres so that light can fall on it."""
     rng = canvas.rng
     margin = int(height * 0.5) + 20
@@ -104,26 +120,28 @@ def cumulus(canvas, x, base, width, height, lit, shade, light=(-0.55, -0.75), op
     yy, xx = YY[y0:y1, x0:x1], XX[y0:y1, x0:x1]
     hump = rng.uniform(-0.16, 0.16)
     depth = np.zeros(yy.shape, np.float32)
-    for _ in range(puffs):
-        u = np.clip(rng.normal(0, 0.24), -0.5, 0.5)
-        top = np.exp(-((u - hump) / 0.24) ** 2) * 0.85 + 0.15 * (1 - 4 * u * u)
+    for k in range(puffs):
+        # an even spread first, so that no puff floats alone
+        u = (k + 0.5) / 14 - 0.5 if k < 14 else np.clip(rng.normal(hump, 0.17), -0.42, 0.42)
+        u = u * 0.92
+        top = np.exp(-(((u - hump) / 0.22) ** 2)) * 0.85 + 0.15 * (1 - 4 * u * u)
         v = rng.random() ** 0.8 * top
-        r = height * (0.13 + 0.20 * rng.random()) * (1.1 - 0.45 * v) * (1.15 - abs(u))
-        cx, cy = x + u * width, base - v * (height - r) - r * 0.35
+        r = height * (0.14 + 0.20 * rng.random()) * (1.1 - 0.45 * v) * (1.2 - 1.3 * abs(u))
+        cx, cy = x + u * width, base - v * (height - r) - r * 0.30
         inner = np.maximum(0, r * r - (xx - cx) ** 2 - (yy - cy) ** 2)
-        depth = np.maximum(depth, np.sqrt(inner) + 0.25 * np.minimum(depth, np.sqrt(inner)))
+        depth = np.maximum(depth, np.sqrt(inner))
     h, w = depth.shape
-    rough = noise.fbm2(rng, h, w, height * 0.16, height * 0.19, 5, 0.55) - 0.5
-    body = depth + rough * height * ragged * (depth > 0)
-    body = noise.blur(body, max(1, height * 0.008))
-    alpha = smoothstep(0, height * 0.075, body)
+    rough = noise.fbm2(rng, h, w, height * 0.14, height * 0.17, 5, 0.55) - 0.5
+    body = noise.blur(depth, max(1, height * 0.015)) + rough * height * ragged * (depth > 0)
+    body = noise.blur(body, max(1, height * 0.006))
+    alpha = smoothstep(0, height * 0.13, body)
     floor = noise.fbm2(rng, h, w, 30, height * 0.3, 3) - 0.5
-    alpha = alpha * smoothstep(base + 6, base - height * 0.12, yy + floor * height * 0.16)
-    gy, gx = np.gradient(noise.blur(body, max(1, height * 0.018)))
-    length = np.sqrt(gx * gx + gy * gy + 0.55)
+    alpha = alpha * smoothstep(base + 4, base - height * 0.20, yy + floor * height * 0.22)
+    gy, gx = np.gradient(noise.blur(body, max(2, height * 0.05)))
+    length = np.sqrt(gx * gx + gy * gy + 1.0)
     facing = -(gx * light[0] + gy * light[1]) / length
     up = np.clip((base - yy) / height, 0, 1)
-    tone = 0.46 + 0.36 * noise.blur(facing, max(1, height * 0.006)) + 0.42 * (up - 0.35)
+    tone = 0.50 + 0.34 * facing + 0.48 * (up - 0.35) + 0.10 * rough
     canvas_part = canvas.px[y0:y1, x0:x1]
     pixels = Ramp(shade, lit).array(np.clip(tone, 0, 1))
     canvas_part += (pixels - canvas_part) * (alpha * opacity)[..., None]

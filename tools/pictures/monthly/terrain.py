@@ -6,7 +6,7 @@ import numpy as np
 from . import noise
 from .canvas import H, W, XX, YY
 from .noise import smoothstep
-from .palette import Ramp, colour
+from .palette import colour
 
 X = np.arange(W, dtype=float)
 
@@ -18,7 +18,7 @@ def ridge(rng, base, amp, cell, octaves=4, gain=0.42, tilt=0.0, bumps=()):
     """
     y = base - amp * noise.line(rng, W, cell, octaves, gain) - tilt * (X / W - 0.5)
     for centre, half, height in bumps:
-        y = y - height * np.exp(-((X - centre) / half) ** 2)
+        y = y - height * np.exp(-(((X - centre) / half) ** 2))
     return y
 
 
@@ -30,7 +30,7 @@ def summit_line(rng, base, summit, rough=0.16):
     crags = np.abs(noise.line(rng, W, 130, 2)) + 0.55 * np.abs(noise.line(rng, W, 52, 3)) - 0.33
     fine = noise.line(rng, W, 22, 4, 0.6)
     near = np.minimum(1, np.abs(X - column) / 34)
-    body = np.maximum(0, 1 - away ** 0.94) * (1 + rough * 2.2 * crags * near)
+    body = np.maximum(0, 1 - away**0.94) * (1 + rough * 2.2 * crags * near)
     return base - height * body - 5 * fine * near * (body > 0)
 
 
@@ -45,8 +45,19 @@ def along(field, depth):
     return np.take_along_axis(field, rows, axis=0)
 
 
-def hill(canvas, edge, ramp, span, light=None, form=0.10, grain=0.05,
-         cell=(60, 420), slope=0.0, rim=0.0, rim_colour="#ffffff"):
+def hill(
+    canvas,
+    edge,
+    ramp,
+    span,
+    light=None,
+    form=0.10,
+    grain=0.05,
+    cell=(60, 420),
+    slope=0.0,
+    rim=0.0,
+    rim_colour="#ffffff",
+):
     """Paint one hill down to the lower edge of the picture.
 
     ramp runs from the ridge downwards over span pixels. light is (column,
@@ -66,9 +77,11 @@ def hill(canvas, edge, ramp, span, light=None, form=0.10, grain=0.05,
     pixels = np.clip(pixels * tone[..., None], 0, 1)
     if light:
         column, width, tint, strength = light
-        near = np.exp(-((XX - column) / width) ** 2) * np.exp(-np.maximum(d, 0) / (span * 0.55))
+        near = np.exp(-(((XX - column) / width) ** 2)) * np.exp(-np.maximum(d, 0) / (span * 0.55))
         near = near * strength * (0.75 + 0.9 * along(big, d))
-        pixels = pixels + (np.array(colour(tint), np.float32) - pixels) * np.clip(near, 0, 1)[..., None]
+        pixels = (
+            pixels + (np.array(colour(tint), np.float32) - pixels) * np.clip(near, 0, 1)[..., None]
+        )
     if rim:
         line = np.exp(-np.maximum(d, 0) / 3.2) * rim
         pixels = pixels + (np.array(colour(rim_colour), np.float32) - pixels) * line[..., None]
@@ -95,7 +108,9 @@ def mountains(canvas, base, summits, lit, shade, foot, span, side=-1, snow=None,
         u = (XX - column + 54 * warp * np.minimum(1, drop / 120)) / drop
         zigzag = noise.line(rng, H, 58, 4, 0.6)[:, None].astype(np.float32)
         main = u - rng.uniform(0.05, 0.32) * -side - 0.30 * zigzag
-        gully = noise.line(rng, 1200, 44, 4, 0.62)[np.clip(600 + u * 150 + 30 * warp, 0, 1199).astype(np.int32)]
+        gully = noise.line(rng, 1200, 44, 4, 0.62)[
+            np.clip(600 + u * 150 + 30 * warp, 0, 1199).astype(np.int32)
+        ]
         rough = noise.ridged2(rng, H, W, 60, 44, 4, 0.55) - 0.62
         face = np.tanh(side * main * 5) * 0.62 + gully * 1.0 + rough * 0.9
         bright = 1 / (1 + np.exp(np.clip(-5.2 * contrast * face, -30, 30)))
@@ -107,8 +122,10 @@ def mountains(canvas, base, summits, lit, shade, foot, span, side=-1, snow=None,
             cover = smoothstep(30, -30, d - snow[2] + 130 * gully + 110 * rough)
             white = low + (np.array(colour(snow[0]), np.float32) - low) * bright[..., None]
             rock = rock + (white - rock) * cover[..., None]
-        canvas.blend((rock + (foot - rock) * fade).astype(np.float32),
-                     np.clip(d + 0.5, 0, 1) * (edge < base)[None, :])
+        canvas.blend(
+            (rock + (foot - rock) * fade).astype(np.float32),
+            np.clip(d + 0.5, 0, 1) * (edge < base)[None, :],
+        )
 
 
 def mist(canvas, level, thickness, tint, strength, cell=(70, 520), edge=None):
@@ -116,7 +133,7 @@ def mist(canvas, level, thickness, tint, strength, cell=(70, 520), edge=None):
     rng = canvas.rng
     centre = level if edge is None else edge[None, :] + level
     cloud = noise.fbm2(rng, H, W, cell[0], cell[1], 5, 0.5)
-    band = np.exp(-((YY - centre) / thickness) ** 2)
+    band = np.exp(-(((YY - centre) / thickness) ** 2))
     canvas.blend(tint, np.clip(strength * band * smoothstep(0.24, 0.72, cloud + 0.12), 0, 1))
 
 
@@ -128,7 +145,12 @@ def fields(canvas, edge, tints, strength, cell=(150, 26), depth=260, start=3):
     bend = noise.fbm2(rng, H, W, 160, 300, 2) - 0.5
     v = np.sqrt(np.maximum(d, 0) / cell[1]) + along(bend, d) * 0.9
     row = np.floor(v).astype(int) % 64
-    u = XX / cell[0] * (1.6 / (0.6 + v * 0.4)) + rng.random(64)[row] * 7 + along(bend, d) * 1.6 + v * 0.5
+    u = (
+        XX / cell[0] * (1.6 / (0.6 + v * 0.4))
+        + rng.random(64)[row] * 7
+        + along(bend, d) * 1.6
+        + v * 0.5
+    )
     plot = (np.floor(u).astype(int) * 7 + row * 31) % 97
     order = rng.integers(0, len(tints), 97)
     shades = np.array([colour(c) for c in tints], np.float32)[order][plot]

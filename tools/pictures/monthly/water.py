@@ -22,7 +22,7 @@ def mirror(canvas, level, tint, depth=0.35, ripple=1.0, stretch=1.0, mask=None, 
     rows = 6.0 + 26.0 * near
     waves = noise.fbm2(rng, H, W, 5, 70, 3)[:below] - 0.5
     wide = noise.fbm2(rng, H, W, 16, 240, 3)[:below] - 0.5
-    perspective = (near ** 0.7 * (H * 0.9)).astype(np.float32)
+    perspective = (near**0.7 * (H * 0.9)).astype(np.float32)
     wave_rows = np.clip(perspective, 0, below - 1).astype(np.int32)
     columns = XX[level:].astype(np.int32)
     wobble = waves[wave_rows, columns] * 1.5 + wide[wave_rows, columns]
@@ -37,7 +37,7 @@ def mirror(canvas, level, tint, depth=0.35, ripple=1.0, stretch=1.0, mask=None, 
     part = (source_y - low)[..., None]
     sx = source_x.astype(np.int32)
     image = picture[low, sx] * (1 - part) + picture[np.minimum(low + 1, level - 1), sx] * part
-    amount = (0.10 + depth * near ** 0.8 + 0.10 * wobble * ripple)[..., None]
+    amount = (0.10 + depth * near**0.8 + 0.10 * wobble * ripple)[..., None]
     image = image + (np.array(colour(tint), np.float32) - image) * np.clip(amount, 0, 1)
     area = np.ones((below, W), np.float32) if mask is None else mask[level:]
     canvas.px[level:] += (image - canvas.px[level:]) * area[..., None]
@@ -57,9 +57,16 @@ def glitter(ctx, rng, x, top, bottom, width, count, tint, alpha=0.8, size=1.0):
         y = top + (bottom - top) * t
         spread = width * (0.22 + 0.9 * t)
         px = x + rng.normal(0, spread * 0.5)
-        near = np.exp(-((px - x) / spread) ** 2)
-        oval(ctx, px, y, size * (1.5 + 11 * t) * rng.uniform(0.5, 1.5), size * (0.5 + 1.3 * t) * rng.uniform(0.5, 1),
-             tint, alpha * near * rng.uniform(0.35, 1))
+        near = np.exp(-(((px - x) / spread) ** 2))
+        oval(
+            ctx,
+            px,
+            y,
+            size * (1.5 + 11 * t) * rng.uniform(0.5, 1.5),
+            size * (0.5 + 1.3 * t) * rng.uniform(0.5, 1),
+            tint,
+            alpha * near * rng.uniform(0.35, 1),
+        )
 
 
 def ripples(ctx, rng, top, bottom, count, tint, alpha=0.2, x0=0, x1=W):
@@ -67,8 +74,15 @@ def ripples(ctx, rng, top, bottom, count, tint, alpha=0.2, x0=0, x1=W):
     for _ in range(count):
         t = rng.random() ** 1.1
         y = top + (bottom - top) * t
-        oval(ctx, rng.uniform(x0, x1), y, (8 + 60 * t) * rng.uniform(0.4, 1.4),
-             0.4 + 1.5 * t, tint, alpha * rng.uniform(0.3, 1))
+        oval(
+            ctx,
+            rng.uniform(x0, x1),
+            y,
+            (8 + 60 * t) * rng.uniform(0.4, 1.4),
+            0.4 + 1.5 * t,
+            tint,
+            alpha * rng.uniform(0.3, 1),
+        )
 
 
 def sea(canvas, level, bottom, ramp, swell=0.05):
@@ -76,7 +90,7 @@ def sea(canvas, level, bottom, ramp, swell=0.05):
     rng = canvas.rng
     t = np.clip((YY - level) / (bottom - level), 0, 1)
     far = noise.fbm2(rng, H, W, 9, 130, 4, 0.55)
-    rows = np.clip((t ** 0.55) * (H * 0.95), 0, H - 1).astype(np.int32)
+    rows = np.clip((t**0.55) * (H * 0.95), 0, H - 1).astype(np.int32)
     wave = np.take_along_axis(far, rows, axis=0) - 0.5
     broad = noise.fbm2(rng, H, W, 60, 700, 3) - 0.5
     pixels = ramp.array(t + 0.16 * broad * (0.3 + t))

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writes the inputs that the fuzzers begin with into the folder named, a folder for each target.
+#include "diary/DiaryFile.h"
+#include "diary/NoteName.h"
+#include "diary/SaveJournal.h"
+#include "language/LanguageFile.h"
+#include "settings/SettingsFile.h"
+#include "text/Lines.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+using kestrova::kLineEnd;
+
+class SeedFolder {
+public:
+    SeedFolder(const std::filesystem::path& root, const char* target) : folder_(root / target) {
+        std::filesystem::create_directories(folder_);
+    }
+
+    void Write(const char* name, std::string_view bytes) const {
+        std::ofstream file(folder_ / name, std::ios::binary);
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        file.close();
+        if (!file) {
+            std::fprintf(stderr, "%s: cannot be written\n", (folder_ / name).c_str());
+            std::exit(1);
+        }
+    }
+
+private:
+    std::filesystem::path folder_;
+};
+
+std::string LanguageBlock(std::string_view name) {
+    const kestrova::StringTable table = kestrova::MsgDefaults();
+    std::string bytes;
+    const auto line = [&](std::string_view text) { bytes.append(text).append(kLineEnd); };
+    line(std::string(name) + " Language");
+    line("DejaVu Sans");
+    line(" 14 ");
+    line("True");
+    line("False");
+    for (std::size_t month = 0; month < kestrova::kMonths; ++month) {
+        line(table.MonthNames[month]);
+        line(table.MonthMenu[month]);
+    }
+    for (const std::string& day : table.WeekdayNames) {
+        line(day);
+    }
+    for (const auto& group : table.Texts) {
+        for (const std::string& text : group) {
+            line('"' + text + '"');
+        }
+    }
+    return bytes;
+}
+
+void WriteLanguages(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Language");
+    seeds.Write("one", LanguageBlock("English"));
+    seeds.Write("two", LanguageBlock("English") + LanguageBlock("Deutsch"));
+    const std::string block = LanguageBlock("English");
+    seeds.Write("cut", std::string_view(block).substr(0, block.size() / 2));
+    // The shortest block: empty fields, many on a line.
+    seeds.Write("commas", "X Language,F,9.5,True,False" + std::string(338, ',') + "\n");
+}
+
+void WriteSettingsSeeds(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Settings");
+    seeds.Write("empty", kestrova::WriteSettings(kestrova::AppSettings()));
+    kestrova::AppSettings first = kestrova::FirstSettings(kestrova::MsgDefaults());
+    seeds.Write("first", kestrova::WriteSettings(first));
+    first.Greeting = "Caf\xE9, \x80 5";
+    first.PrintStyles[0].Size = 12.75F;
+    first.DataYear = -31999;
+    first.VideoRepeat = 1;
+    first.VideoFullScreen = 1;
+    seeds.Write("old", "\xEF\xBB\xBF" + kestrova::WriteSettings(first));
+}
+
+// The diary target takes two bytes for the record and then lines.
+void WriteDiarySeeds(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Diary");
+    const std::string event =
+        " 9 \r\n 30 \r\nDentist\r\nMonthly\r\nScreen\r\n 0 \r\n\r\n\r\n\r\n\r\n";
+    seeds.Write("first", std::string(2, '\0') + event);
+    seeds.Write("last", "\x23\xBF" + event);
+    seeds.Write("two", "\x01\x02" + event + event);
+    seeds.Write("old", "\x01\x02-1\n32767\nCaf\xE9\n\nEmail\n1\na@b.c\n5\n\xC3\xA9\nx\n");
+    seeds.Write("short", std::string("\x01\x02 9 \r\n", 7));
+}
+
+void WriteJournals(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Journal");
+    kestrova::SaveJournal journal;
+    seeds.Write("empty", kestrova::WriteJournal(journal));
+    journal.DiaryDigest = 0xFFFFFFFFFFFFFFFFU;
+    journal.DiarySize = 300000;
+    journal.RolledTo = 2027;
+    journal.Notes[kestrova::GetFile({1, 1, 0, 0})] = "one\r\nend\ntwo";
+    journal.Notes[kestrova::GetFile({10, 31, 11, 1})] = std::nullopt;
+    journal.Notes[kestrova::GetFile({2, 25, 5, 0})] = "";
+    seeds.Write("full", kestrova::WriteJournal(journal));
+}
+
+void WriteTexts(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Text");
+    seeds.Write("lines", "\xEF\xBB\xBFone\r\ntwo\nthree\r\r\n\nfour");
+    seeds.Write("utf8", "\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80 plain text that is long enough");
+    seeds.Write("malformed", "\xC0\x80 \xED\xA0\x80 \xF4\x90\x80\x80 \xE2\x82");
+    seeds.Write("windows", "Caf\xE9 \x80\x81\x9F");
+    seeds.Write("fields", "a, b ,\"c, d\" x,\"open\nnext,,\n");
+    seeds.Write("number", " -32768 ");
+    seeds.Write("fraction", "+12.5e1");
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: WriteSeeds FOLDER\n");
+        return 2;
+    }
+    const std::filesystem::path root(argv[1]);
+    WriteLanguages(root);
+    WriteSettingsSeeds(root);
+    WriteDiarySeeds(root);
+    WriteJournals(root);
+    WriteTexts(root);
+    return 0;
+}

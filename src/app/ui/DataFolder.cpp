@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ui/DataFolder.h"
+
+#include "platform/qt/QtText.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace kestrova {
+
+namespace {
+
+// Copies what is not there yet; a file that is there is the user's and stays. A file that cannot be
+// copied is missing as it would be from a damaged installation.
+void Seed(const QString& from, const QString& to) {
+    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString source = files.next();
+        const QString target = to + QDir(from).relativeFilePath(source);
+        if (QFileInfo(source).isExecutable() || QFileInfo::exists(target)) {
+            continue;
+        }
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::copy(source, target);
+    }
+}
+
+} // namespace
+
+std::string FindDataFolder() {
+    const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+    if (QFileInfo(beside).isWritable()) {
+        return FromQt(beside);
+    }
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1Char('/');
+    if (!QFileInfo::exists(own)) {
+        QDir().mkpath(own);
+        Seed(beside, own);
+    }
+    return FromQt(own);
+}
+
+} // namespace kestrova

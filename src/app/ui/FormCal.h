@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/ui/DateLabel.h"
+#include "app/ui/PictureBox.h"
+#include "calendar/Selection.h"
+#include "diary/DiaryStore.h"
+#include "language/Languages.h"
+#include "media/MediaPanel.h"
+#include "media/PictureTable.h"
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+#include "platform/Shell.h"
+#include "settings/AppSettings.h"
+#include "speech/Speaker.h"
+#include "ui/ClickLabel.h"
+
+#include <QMainWindow>
+#include <QToolButton>
+
+#include <array>
+#include <functional>
+
+class QBoxLayout;
+class QGridLayout;
+
+namespace kestrova {
+
+// The main window: the month on show beside its picture.
+class FormCal : public QMainWindow {
+public:
+    // Redraw's month for "the one on show".
+    static constexpr int kSameMonth = 13;
+
+    struct Rooms {
+        Selection& Dates;
+        const StringTable& Texts;
+        AppSettings& Settings;
+        const DiaryStore& Store;
+        const Languages& Tongues;
+        const PictureTable& Pictures;
+        const std::string& DataFolder;
+        Speaker& Speech;
+        MediaPanel& Media;
+        Dialogs& Boxes;
+        Shell& Desktop;
+        const Clock& Time;
+    };
+
+    // What the window asks of the program around it.
+    struct Hooks {
+        std::function<void(int day)> OpenDiary;
+        std::function<void()> SettingsChanged;    // to be kept
+        std::function<void(int index)> ChangeLanguage;
+        std::function<void()> ReloadLanguage;     // day names have other places
+        std::function<void()> FirstDrawn;
+        std::function<void(int minutes)> SetReturnCountdown;
+        std::function<void()> Quit;
+    };
+
+    FormCal(const Rooms& rooms, Hooks hooks);
+
+    // Draws a month 0-11, or the one on show. Nothing is drawn before the window has been shown, or
+    // while it is minimised.
+    void Redraw(int month);
+
+    // Loads the picture of the month on show.
+    void GetPicture();
+
+    // Puts the texts of the string table into the window and its menus.
+    void LoadCaptions();
+
+    // Ticks the menu entries by the settings.
+    void ApplySettings();
+
+    // Shows the window as it was before it was minimised, maximised or hidden.
+    void ShowNormal();
+
+    // Ends or hides the window, as the settings say.
+    void MNU_Exit_Click();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void BuildCard();
+    void BuildMenus();
+    void BuildFileMenu();
+    void BuildMonthMenu();
+    void BuildChoiceMenus();
+    QAction* AddAction(QMenu* menu, const QString& name, std::function<void()> handler);
+
+    void Form_Activate();
+    void PlaceDates();
+    void MarkDates();
+    void SetTitle();
+    void FitToWindow();
+    void DoMNUDays(int month);
+    void AfterMove(bool otherMonth);
+    void SelectDay(int day);
+
+    void LabYrAdv_Click();
+    void LabYrRtd_Click();
+    void LabCurMth_DblClick();
+    void LabCurMth_Click();
+    void LabHelp_Click();
+    void LabDays_Click();
+    void MNU_Mon_Click(int month);
+    void MNU_WeekSt_Click(int index);
+    void MNU_Lan_Click(int index);
+    void MNU_Full_Click();
+    void MNU_Repeat_Click();
+    void MNU_About_Click();
+
+    [[nodiscard]] bool HandleMoveKey(const QKeyEvent& event);
+
+    Rooms rooms_;
+    Hooks hooks_;
+    bool windowReady_ = false; // WindowReady
+    bool firstDraw_ = true;
+
+    QBoxLayout* layout_ = nullptr;
+    PictureBox* Image1 = nullptr;
+    QWidget* card_ = nullptr;
+    QGridLayout* grid_ = nullptr;
+    ClickLabel* LabCurMth = nullptr;
+    QToolButton* LabYrAdv = nullptr;
+    QToolButton* LabYrRtd = nullptr;
+    ClickLabel* LabHelp = nullptr;
+    std::array<ClickLabel*, kDaysOfWeek> LabDays{};
+    std::array<DateLabel*, kMaxDays> LabDates{};
+
+    QMenu* MNU_File = nullptr;
+    QMenu* MNU_Month = nullptr;
+    QMenu* MNU_Date = nullptr;
+    QMenu* MNU_Week = nullptr;
+    QMenu* MNU_Language = nullptr;
+    QMenu* MNU_Help = nullptr;
+    QAction* MNU_Full = nullptr;
+    QAction* MNU_Repeat = nullptr;
+    std::array<QAction*, kMonths> MNU_Mon{};
+    std::array<QAction*, kMaxDays> MNU_Day{};
+    std::array<QAction*, 3> MNU_WeekSt{};
+    std::array<QAction*, kFixedLanguages> MNU_Lan{};
+};
+
+} // namespace kestrova

@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ui/Program.h"
+
+#include "app/Navigation.h"
+#include "diary/RollOver.h"
+#include "language/Texts.h"
+#include "settings/ListChoices.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace kestrova {
+
+namespace {
+
+constexpr int kTickMilliseconds = 500;
+
+} // namespace
+
+Program::Program(std::string dataFolder, InstanceLink& link)
+    : dataFolder_(std::move(dataFolder)), link_(link), texts_(MsgDefaults()),
+      settings_(FirstSettings(texts_)), languages_(files_, dataFolder_ + "Lan.dat", texts_),
+      settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
+      diaryFiles_(files_, clock_),
+      store_(diaryFiles_, dialogs_, texts_, [] { QApplication::quit(); }),
+      yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
+      editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
+      review_({store_, dates_, texts_, settings_, speech_, phone_, mail_, media_, loop_, beeper_}),
+      tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
+             beeper_, *this}),
+      formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
+                media_, dialogs_, shell_, clock_},
+               {[this](int day) { OpenDiary(day); },
+                [this] { (void)settingsStore_.SaveSettings(settings_); },
+                [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
+                [this] {
+                    tick_.SetFirstDraw(false);
+                    // The window is to be seen before a delivery makes the pass wait.
+                    QTimer::singleShot(0, &formCal_, [this] { tick_.DoTimer(); });
+                },
+                [this](int minutes) { tick_.SetReturnCountdown(minutes); },
+                [] { QApplication::quit(); }}),
+      diary_(&formCal_, {dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
+             [this] { formCal_.Redraw(FormCal::kSameMonth); }),
+      screenReminder_(texts_, [this] { tick_.ClearReminders(); }) {
+    Timer1.setInterval(kTickMilliseconds);
+    QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
+    FillStartUp();
+}
+
+Program::~Program() { Timer1.stop(); }
+
+void Program::Run() {
+    startUp_.Run();
+    formCal_.show();
+    link_.OnPoke([this](std::string_view text) { RunCheck_Change(text); });
+}
+
+void Program::FillStartUp() {
+    FillFirstSteps();
+    FillDiarySteps();
+    FillLastSteps();
+}
+
+void Program::FillFirstSteps() {
+    startUp_.Fill(StartUpStep::Going, [this] {
+        runCheck_ = kInstanceRunning;
+        Timer1.start();
+    });
+    startUp_.Fill(StartUpStep::GetPaths, [this] { GetPaths(); });
+    startUp_.Fill(StartUpStep::MsgDefaults, [this] { texts_ = MsgDefaults(); });
+    startUp_.Fill(StartUpStep::ReadSettings, [this] {
+        // A settings file that is not there yet has the present year as the diary's.
+        settings_.DataYear = static_cast<std::int16_t>(clock_.Now().Year);
+        settingsStore_.GetSettings(settings_);
+    });
+    startUp_.Fill(StartUpStep::GetLanguage, [this] { ReloadLanguage(); });
+    startUp_.Fill(StartUpStep::LoadCaptions, [this] { LoadCaptions(); });
+    startUp_.Fill(StartUpStep::ApplySettings, [this] { formCal_.ApplySettings(); });
+    startUp_.Fill(StartUpStep::ModemCheck, [this] { ModemCheck(); });
+}
+
+void Program::FillDiarySteps() {
+    startUp_.Fill(StartUpStep::BaseYear, [this] { yearTurn_.SetBaseYear(clock_.Now().Year); });
+    startUp_.Fill(StartUpStep::PictureTables, [this] {
+        ReadTodayFromClock();
+        pictures_ = ScanPictures(files_, dataFolder_, dates_);
+    });
+    startUp_.Fill(StartUpStep::GetData, [this] { store_.GetData(dataFolder_); });
+    startUp_.Fill(StartUpStep::YearUpdate, [this] {
+        yearTurn_.YearUpdate();
+        tick_.SetFirstDraw(true);
+    });
+    startUp_.Fill(StartUpStep::PastRemindersOff, [this] {
+        const WallTime now = clock_.Now();
+        if (now.Year != dates_.BaseYear) {
+            return;
+        }
+        DiaryTable trial = store_.Table();
+        if (PastRemindersOff(trial, texts_, now.Month, now.Day) == 0) {
+            return;
+        }
+        (void)store_.Change([this, now](EventList& events) {
+            PastRemindersOff(events.Table(), texts_, now.Month, now.Day);
+            return EditVerdict::Save;
+        });
+    });
+}
+
+void Program::FillLastSteps() {
+    startUp_.Fill(StartUpStep::Today, [this] {
+        ReadTodayFromClock();
+        ShowToday(dates_);
+    });
+    startUp_.Fill(StartUpStep::PictureSoundsCd, [this] { formCal_.GetPicture(); });
+    startUp_.Fill(StartUpStep::Character, [this] {
+        if (settings_.SpeechEnabled != 0 && !speech_.LoadCharacter()) {
+            settings_.SpeechEnabled = 0;
+        }
+        if (settings_.SpeechEnabled == 0) {
+            settings_.SpeakPicture = 0;
+            settings_.SpeakWeekDay = 0;
+            settings_.SpeakDate = 0;
+        }
+    });
+    startUp_.Fill(StartUpStep::SharedDiaries, [this] { tick_.Begin(); });
+}
+
+void Program::GetPaths() {
+    for (const char* const name : {"Images", "DiaryDat", "Speech", "Help"}) {
+        // Whatever cannot be made shows itself, with a message, when something is kept there.
+        (void)files_.MakeFolder(dataFolder_ + name);
+    }
+}
+
+void Program::ModemCheck() {
+    // The probe waits for the modem's answers; no tick is to come in between.
+    Timer1.stop();
+    if (HasModemPort(settings_, texts_) && !phone_.ModemPresent()) {
+        settings_.ModemPort = texts_.Text(texts::kModemPorts);
+    }
+    Timer1.start();
+}
+
+void Program::ReadTodayFromClock() {
+    const WallTime now = clock_.Now();
+    ReadToday(dates_, now.Month, now.Day, DayMonthOrder::AsGiven);
+}
+
+void Program::LoadCaptions() {
+    formCal_.LoadCaptions();
+    diary_.LoadCaptions();
+    screenReminder_.LoadCaptions();
+}
+
+void Program::ReloadLanguage() {
+    int index = settings_.LanguageIndex;
+    languages_.GetLanguage(index);
+    settings_.LanguageIndex = static_cast<std::int16_t>(index);
+    LoadCaptions();
+}
+
+void Program::ChangeLanguage(int index) {
+    const StringTable before = texts_;
+    languages_.ChangeLanguage(index);
+    settings_.LanguageIndex = static_cast<std::int16_t>(index);
+    TranslateChoices(settings_, before, texts_);
+    if (!texts_.LanguageFont.empty()) {
+        for (PrintStyle& style : settings_.PrintStyles) {
+            style.FontName = texts_.LanguageFont;
+        }
+    }
+    LoadCaptions();
+    (void)settingsStore_.SaveSettings(settings_);
+}
+
+void Program::OpenDiary(int day) {
+    dates_.PageDay = day;
+    if (!dates_.PageYearIndex()) {
+        dialogs_.Show({texts_.Text(texts::kProgramTitle), texts_.Text(texts::kOnlyTwoYears),
+                       DialogIcon::None});
+        return;
+    }
+    screenReminder_.hide();
+    screenReminder_.setEnabled(false);
+    diary_.Open();
+}
+
+void Program::RunCheck_Change(std::string_view text) {
+    const bool changed = runCheck_ != text;
+    runCheck_ = text;
+    if (changed && text == kInstancePoke) {
+        formCal_.ShowNormal();
+    }
+}
+
+void Program::DiaryReloaded() {
+    formCal_.Redraw(FormCal::kSameMonth);
+    if (diary_.isVisible() && !diary_.IsEditing()) {
+        diary_.DrawMainPage();
+    }
+}
+
+void Program::ShowReminders(const std::vector<std::string>& lines) {
+    screenReminder_.ShowLines(lines);
+}
+
+void Program::TodayMoved(bool wasShown) {
+    if (wasShown) {
+        ShowToday(dates_);
+        formCal_.GetPicture();
+    }
+    formCal_.Redraw(FormCal::kSameMonth);
+}
+
+void Program::ReturnToToday() {
+    ShowToday(dates_);
+    formCal_.GetPicture();
+    formCal_.Redraw(dates_.PageMonth);
+}
+
+// No window to ask in yet: the event editor does not come here while the modem is off and the mail
+// does not work.
+bool Program::AskPhoneNumbers(ReminderExtra& /*extra*/) { return false; }
+bool Program::AskMailAddress(ReminderExtra& /*extra*/) { return false; }
+
+} // namespace kestrova

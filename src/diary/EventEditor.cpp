@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/EventEditor.h"
+
+#include "diary/Repeats.h"
+#include "language/ProgramTexts.h"
+#include "language/Texts.h"
+#include "text/Lines.h"
+#include "text/Numbers.h"
+
+#include <algorithm>
+
+namespace kestrova {
+
+namespace {
+
+constexpr int kLastMonthlyDay = 28;
+constexpr CalendarDate kLeapDay{2000, 1, 29};
+constexpr std::size_t kMediaFile = 1; // where Extra holds the path
+
+constexpr const char* kMediaFilter =
+    "Media Files (*.mpg;*.avi;*.mov;*.wav;*.mp2;*.mp3)|*.mpg;*.mpeg;*.avi;*.mov;*.wav;*.mp2;*.mp3";
+constexpr const char* kWaveFilter = "*.wav|*.wav";
+
+std::int16_t TimeNumber(std::string_view text) { return ReadInt16(text).value_or(0); }
+
+} // namespace
+
+bool IsTimeText(std::string_view text, int limit) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return text.size() <= 2 && std::all_of(text.begin(), text.end(), isDigit) &&
+           TimeNumber(text) <= limit;
+}
+
+std::string PadTime(std::string_view text) { return TwoDigits(TimeNumber(text)); }
+
+std::vector<std::string> EventEditor::BuildRmdList() const {
+    std::vector<std::string> list;
+    for (int i = 0; i < kReminderKinds; ++i) {
+        const auto kind = static_cast<ReminderKind>(i);
+        const bool hidden =
+            (kind == ReminderKind::Phone && rooms_.Details.Modem() == ModemState::NoModem) ||
+            (kind == ReminderKind::Email && !rooms_.Details.MailWorks());
+        if (!hidden) {
+            list.push_back(ReminderCaption(rooms_.Texts, kind));
+        }
+    }
+    return list;
+}
+
+std::optional<DayPlace> EventEditor::Day(const CalendarDate& date) const {
+    const int year = date.Year - rooms_.Dates.BaseYear;
+    if (year < 0 || year >= kDiaryYears) {
+        return std::nullopt;
+    }
+    return DayPlace{date.Day, date.Month, year};
+}
+
+AcceptResult EventEditor::BeginNew() {
+    date_ = rooms_.Dates.Page();
+    original_.reset();
+    extra_ = {};
+    const auto day = Day(date_);
+    if (day && !rooms_.Store.Table().At({kEventsPerDay, *day}).IsFree()) {
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                           std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+        return AcceptResult::Refused;
+    }
+    return AcceptResult::Accepted;
+}
+
+AcceptResult EventEditor::BeginEdit(int slot) {
+    date_ = rooms_.Dates.Page();
+    const auto day = Day(date_);
+    if (!day || rooms_.Store.Table().At({slot, *day}).IsFree()) {
+        return AcceptResult::Refused;
+    }
+    original_ = rooms_.Store.Table().At({slot, *day});
+    extra_ = original_->Extra;
+    return AcceptResult::Accepted;
+}
+
+void EventEditor::ShowRefusal(std::initializer_list<TextId> lines) {
+    std::string text;
+    for (const TextId id : lines) {
+        text += (text.empty() ? "" : "\n") + rooms_.Texts.Text(id);
+    }
+    rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle), text, DialogIcon::Critical});
+}
+
+bool EventEditor::RefusesRepeat(const EventDraft& draft) {
+    const auto repeat = RepeatOf(rooms_.Texts, draft.Rpt);
+    const RepeatKind kind = repeat ? repeat->Kind : RepeatKind::Never;
+    std::optional<TextId> refusal;
+    if (kind == RepeatKind::Monthly && date_.Day > kLastMonthlyDay) {
+        refusal = texts::kNoMonthlyAbove28;
+    }
+    if (kind == RepeatKind::Annually && date_.Month == kLeapDay.Month &&
+        date_.Day == kLeapDay.Day) {
+        refusal = texts::kNoAnnualLeapDay;
+    }
+    if (refusal) {
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle), rooms_.Texts.Text(*refusal),
+                           DialogIcon::Critical});
+    }
+    return refusal.has_value();
+}
+
+bool EventEditor::CollectMediaFile() {
+    const auto path =
+        rooms_.Boxes.OpenFile("", rooms_.Details.VideoWorks() ? kMediaFilter : kWaveFilter);
+    if (path) {
+        if (path->ends_with(".wav")) {
+            rooms_.Details.Preview(*path);
+        }
+        extra_[kMediaFile] = *path;
+    }
+    return !extra_[kMediaFile].empty();
+}
+
+// Whether the reminder can be given; if not, the user has been told.
+bool EventEditor::CollectDetails(ReminderKind kind) {
+    switch (kind) {
+    case ReminderKind::Speak:
+        if (rooms_.Settings.SpeechEnabled == 0) {
+            ShowRefusal({texts::kNoSpeech, texts::kDownloadSpeech, texts::kEnableSpeech});
+            return false;
+        }
+        return true;
+    case ReminderKind::Phone:
+        if (rooms_.Settings.ModemDescription.empty() ||
+            rooms_.Details.Modem() != ModemState::On) {
+            ShowRefusal({texts::kNoCallModemDisabled, texts::kEnableModem});
+            return false;
+        }
+        return rooms_.Details.AskPhoneNumbers(extra_);
+    case ReminderKind::Media:
+        if (!rooms_.Details.SoundWorks()) {
+            ShowRefusal({texts::kNoWaveSounds, texts::kAtTheMoment});
+            return false;
+        }
+        return CollectMediaFile();
+    case ReminderKind::Music:
+        if (!rooms_.Details.CdWorks()) {
+            ShowRefusal({texts::kCdInactive, texts::kAtTheMoment});
+            return false;
+        }
+        return true;
+    case ReminderKind::Email: return rooms_.Details.AskMailAddress(extra_);
+    case ReminderKind::Screen:
+    case ReminderKind::None: return true;
+    }
+    return true;
+}
+
+void EventEditor::Remove(EventList& events, const SlotPlace& place) {
+    removing_.push_back({{rooms_.Dates.BaseYear + place.Year, place.Month, place.Day},
+                         events.Table().At(place),
+                         rooms_.Store.Note(place)});
+    events.DeleteMsg(place);
+}
+
+EditVerdict EventEditor::Insert(EventList& events, const DayPlace& day, const DiaryEvent& event) {
+    events.ReSortMsg(day);
+    dayFull_ = events.IsFull(day);
+    if (dayFull_) {
+        return EditVerdict::Leave;
+    }
+    const SlotPlace scratch(kScratchSlot, day);
+    events.Table().At(scratch) = event;
+    events.Notes().CreateEmpty(scratch);
+    if (const auto slot = events.SortMsg(day)) {
+        RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*slot, day});
+    }
+    return EditVerdict::Save;
+}
+
+EditVerdict EventEditor::Overwrite(EventList& events, const DayPlace& day,
+                                   const DiaryEvent& event) {
+    const auto slot = events.Find(day, *original_);
+    if (!slot) {
+        // Someone else has deleted or moved it meanwhile. What the user typed is not thrown away.
+        return event.IsFree() ? EditVerdict::Leave : Insert(events, day, event);
+    }
+    const SlotPlace place(*slot, day);
+    if (event.IsFree()) {
+        Remove(events, place);
+        events.ReSortMsg(day);
+        return EditVerdict::Save;
+    }
+    events.Table().At(place) = event;
+    events.ReSortMsg(day);
+    if (const auto moved = events.Find(day, event)) {
+        RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*moved, day});
+    }
+    return EditVerdict::Save;
+}
+
+AcceptResult EventEditor::Finish(ChangeResult result) {
+    if (result == ChangeResult::NotSaved) {
+        return AcceptResult::Refused;
+    }
+    if (!removing_.empty()) {
+        removed_ = std::move(removing_);
+    }
+    return AcceptResult::Accepted;
+}
+
+AcceptResult EventEditor::Accept(EventDraft& draft) {
+    const auto day = Day(date_);
+    if (!day) {
+        ShowRefusal({texts::kSaveFailed});
+        return AcceptResult::Refused;
+    }
+    const std::string msg = AsOneLine(draft.Msg);
+    if (msg.empty() && !original_) {
+        return AcceptResult::Accepted;
+    }
+    if (!msg.empty()) {
+        if (RefusesRepeat(draft)) {
+            return AcceptResult::Refused;
+        }
+        const auto kind = ReminderKindOf(rooms_.Texts, draft.Rmd);
+        if (kind && !CollectDetails(*kind)) {
+            draft.Rmd = ReminderCaption(rooms_.Texts, ReminderKind::Screen);
+        }
+    }
+    const DiaryEvent event{TimeNumber(draft.Hour), TimeNumber(draft.Minute), msg, draft.Rpt,
+                           draft.Rmd, extra_, static_cast<std::int16_t>(draft.Hide ? 1 : 0)};
+    const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
+        removing_.clear();
+        dayFull_ = false;
+        return original_ ? Overwrite(events, *day, event) : Insert(events, *day, event);
+    });
+    if (dayFull_) {
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                           std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+        return AcceptResult::Refused;
+    }
+    return Finish(result);
+}
+
+AcceptResult EventEditor::DeleteAllAlike() {
+    if (!original_) {
+        return AcceptResult::Accepted;
+    }
+    const std::string msg = original_->Msg;
+    return Finish(rooms_.Store.Change([&](EventList& events) {
+        removing_.clear();
+        EachStoredSlot([&](const SlotPlace& place) {
+            if (place.Slot > 0 && events.Table().At(place).Msg == msg) {
+                Remove(events, place);
+            }
+        });
+        for (const Removed& removed : removing_) {
+            if (const auto day = Day(removed.Date)) {
+                events.ReSortMsg(*day);
+            }
+        }
+        return removing_.empty() ? EditVerdict::Leave : EditVerdict::Save;
+    }));
+}
+
+AcceptResult EventEditor::Undo() {
+    if (removed_.empty()) {
+        return AcceptResult::Refused;
+    }
+    const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
+        removing_.clear();
+        for (const Removed& removed : removed_) {
+            const auto day = Day(removed.Date);
+            if (!day || events.IsFull(*day)) {
+                continue;
+            }
+            const SlotPlace scratch(kScratchSlot, *day);
+            events.Table().At(scratch) = removed.Event;
+            if (removed.Note) {
+                events.Notes().Put(scratch, *removed.Note);
+            }
+            events.SortMsg(*day);
+        }
+        return EditVerdict::Save;
+    });
+    if (result == ChangeResult::Saved) {
+        removed_.clear();
+    }
+    return Finish(result);
+}
+
+} // namespace kestrova

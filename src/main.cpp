@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/ui/DataFolder.h"
+#include "app/ui/Program.h"
+#include "platform/qt/QtInstanceLink.h"
+#include "platform/qt/SignalWatch.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kestrova"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kestrova"));
+    QApplication::setApplicationVersion(QStringLiteral(KESTROVA_VERSION));
+    // Hidden, the program goes on giving reminders.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    kestrova::QtInstanceLink link;
+    if (link.Join() == kestrova::InstanceRole::Newcomer) {
+        return 0;
+    }
+    const kestrova::SignalWatch signals([] { QApplication::quit(); });
+    kestrova::Program program(kestrova::FindDataFolder(), link);
+    program.Run();
+    return QApplication::exec();
+}

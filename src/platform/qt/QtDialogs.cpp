@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/qt/QtDialogs.h"
+
+#include "platform/qt/QtText.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace kestrova {
+
+namespace {
+
+QMessageBox::Icon IconOf(DialogIcon icon) {
+    switch (icon) {
+    case DialogIcon::None: return QMessageBox::NoIcon;
+    case DialogIcon::Critical: return QMessageBox::Critical;
+    case DialogIcon::Question: return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void Fill(QMessageBox& box, const Message& message) {
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setWindowTitle(ToQt(message.Title));
+    // A message may quote a file's name or a user's text: it must not be taken for markup.
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(message.Text));
+    box.setIcon(IconOf(message.Icon));
+}
+
+// "Caption|*.a;*.b" as the toolkit wants it: "Caption (*.a *.b)".
+QString FilterOf(const std::string& filter) {
+    const std::size_t bar = filter.find('|');
+    const QString caption = ToQt(filter.substr(0, bar)).section(u'(', 0, 0).trimmed();
+    QString patterns = bar == std::string::npos ? QString() : ToQt(filter.substr(bar + 1));
+    patterns.replace(u';', u' ');
+    return QStringLiteral("%1 (%2)").arg(caption, patterns);
+}
+
+} // namespace
+
+void QtDialogs::Show(const Message& message) {
+    QMessageBox box(QApplication::activeWindow());
+    Fill(box, message);
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+bool QtDialogs::Ask(const Message& message, const AnswerCaptions& captions) {
+    QMessageBox box(QApplication::activeWindow());
+    Fill(box, message);
+    QPushButton* const yes = captions.Yes.empty()
+                                 ? box.addButton(QMessageBox::Ok)
+                                 : box.addButton(ToQt(captions.Yes), QMessageBox::AcceptRole);
+    QPushButton* const no = captions.No.empty()
+                                ? box.addButton(QMessageBox::Cancel)
+                                : box.addButton(ToQt(captions.No), QMessageBox::RejectRole);
+    box.setDefaultButton(yes);
+    box.setEscapeButton(no);
+    box.exec();
+    return box.clickedButton() == yes;
+}
+
+std::optional<std::string> QtDialogs::Input(const std::string& title, const std::string& prompt,
+                                            const std::string& offered) {
+    bool accepted = false;
+    const QString answer =
+        QInputDialog::getText(QApplication::activeWindow(), ToQt(title), ToQt(prompt),
+                              QLineEdit::Normal, ToQt(offered), &accepted);
+    return accepted ? std::optional(FromQt(answer)) : std::nullopt;
+}
+
+std::optional<std::string> QtDialogs::OpenFile(const std::string& folder,
+                                               const std::string& filter) {
+    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), QString(),
+                                                      ToQt(folder), FilterOf(filter));
+    return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
+}
+
+} // namespace kestrova

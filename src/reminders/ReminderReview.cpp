@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "reminders/ReminderReview.h"
+
+#include "text/Numbers.h"
+
+#include <algorithm>
+
+namespace kestrova {
+
+namespace {
+
+constexpr std::chrono::seconds kAcknowledgeTime{20};
+constexpr int kPauseBetweenCalls = 20; // seconds
+constexpr int kDefaultRepeat = 15;
+constexpr std::size_t kMediaFile = 1; // where Extra holds the path
+constexpr std::array<std::size_t, 3> kNumbers = {1, 2, 3}; // where Extra holds the numbers
+
+int RepeatPeriod(const std::string& text) { return ReadInt16(text).value_or(kDefaultRepeat); }
+
+// Whether a counter of examined reminders says that it is time again.
+bool IsTurn(int count, const std::string& period) {
+    return count == 0 || count > RepeatPeriod(period);
+}
+
+// The hour and minute as they are spoken: each after a blank.
+std::string SpokenTime(const DiaryEvent& event) {
+    return " " + std::to_string(event.Hour) + ": " + std::to_string(event.Minute);
+}
+
+// The slot of exactly this event; one whose reminder has changed since is another.
+std::optional<int> FindExactly(const DiaryTable& table, const DayPlace& day,
+                               const DiaryEvent& event) {
+    for (int slot = 0; slot < kStoredSlots; ++slot) {
+        if (table.At({slot, day}) == event) {
+            return slot;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string ReminderLine(const DiaryEvent& event) { return EventTime(event) + "    " + event.Msg; }
+
+DayPlace ReminderReview::Today() const {
+    return {rooms_.Dates.TodayDay, rooms_.Dates.TodayMonth, 0};
+}
+
+std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
+    lines_.clear();
+    std::vector<DiaryEvent> shownBefore = std::move(shown_);
+    shown_.clear();
+    std::vector<DiaryEvent> events;
+    for (int slot = 0; slot < kStoredSlots; ++slot) {
+        events.push_back(rooms_.Store.Table().At({slot, Today()}));
+    }
+    const int minute = now.Hour * 60 + now.Minute;
+    for (const DiaryEvent& event : events) {
+        if (event.IsFree() || event.Key() > minute ||
+            !FindExactly(rooms_.Store.Table(), Today(), event)) {
+            continue;
+        }
+        // Clearing acknowledges what was on show, not what has fallen due since.
+        const bool wasShown =
+            std::find(shownBefore.begin(), shownBefore.end(), event) != shownBefore.end();
+        const bool fresh = kind == PassKind::Clearing && !wasShown;
+        if (Deliver(event, fresh ? PassKind::Ordinary : kind) == Delivery::UsedUp) {
+            MarkUsedUp(event);
+        }
+    }
+    return lines_;
+}
+
+void ReminderReview::MarkUsedUp(const DiaryEvent& event) {
+    const std::string& none = ReminderCaption(rooms_.Texts, ReminderKind::None);
+    const auto slot = FindExactly(rooms_.Store.Table(), Today(), event);
+    if (!slot || event.Rmd == none) {
+        return;
+    }
+    rooms_.Store.Table().At({*slot, Today()}).Rmd = none;
+    const Selection& dates = rooms_.Dates;
+    usedUp_.push_back({{dates.BaseYear, dates.TodayMonth, dates.TodayDay}, event});
+}
+
+void ReminderReview::ApplyMarks(DiaryTable& table) const {
+    for (const UsedUp& used : usedUp_) {
+        const int year = used.Date.Year - rooms_.Dates.BaseYear;
+        if (year < 0 || year >= kDiaryYears) {
+            continue;
+        }
+        const DayPlace day{used.Date.Day, used.Date.Month, year};
+        if (const auto slot = FindExactly(table, day, used.Event)) {
+            table.At({*slot, day}).Rmd = ReminderCaption(rooms_.Texts, ReminderKind::None);
+        }
+    }
+}
+
+ChangeResult ReminderReview::Save(BusyMessage busy) {
+    const ChangeResult result = rooms_.Store.Change(
+        [this](EventList& events) {
+            ApplyMarks(events.Table());
+            events.ReSortMsg(Today());
+            return EditVerdict::Save;
+        },
+        busy);
+    if (result == ChangeResult::Saved) {
+        usedUp_.clear();
+    }
+    return result;
+}
+
+ReminderReview::Delivery ReminderReview::Deliver(const DiaryEvent& event, PassKind kind) {
+    const auto reminder = ReminderKindOf(rooms_.Texts, event.Rmd);
+    if (!reminder) {
+        return Delivery::Pending;
+    }
+    const auto result = [](bool delivered) {
+        return delivered ? Delivery::UsedUp : Delivery::Pending;
+    };
+    switch (*reminder) {
+    case ReminderKind::Screen: return Screen(event, kind);
+    case ReminderKind::Speak: return Speak(event, kind);
+    case ReminderKind::Phone: return Call(event, kind);
+    case ReminderKind::Media: return result(rooms_.Media.PlayReminder(event.Extra[kMediaFile]));
+    case ReminderKind::Music: return result(rooms_.Media.PlayCd());
+    case ReminderKind::Email: return result(rooms_.Mail.SendMail(event) != MailStatus::TryLater);
+    case ReminderKind::None: return Delivery::UsedUp;
+    }
+    return Delivery::Pending;
+}
+
+ReminderReview::Delivery ReminderReview::Screen(const DiaryEvent& event, PassKind kind) {
+    if (kind != PassKind::Ordinary) {
+        return Delivery::UsedUp;
+    }
+    lines_.push_back(ReminderLine(event));
+    shown_.push_back(event);
+    return Delivery::Pending;
+}
+
+ReminderReview::Delivery ReminderReview::Speak(const DiaryEvent& event, PassKind kind) {
+    if (kind == PassKind::FirstDraw) {
+        return Delivery::UsedUp;
+    }
+    bool delivered = false;
+    if (rooms_.Settings.SpeechEnabled != 0 &&
+        IsTurn(speakRepeatCount_, rooms_.Settings.SpeakRepeat)) {
+        delivered = Announce(event);
+    }
+    ++speakRepeatCount_;
+    if (delivered) {
+        speakRepeatCount_ = 0;
+    }
+    return delivered ? Delivery::UsedUp : Delivery::Pending;
+}
+
+// Speaks a reminder; true when the user has acknowledged it. Without a character there is nobody
+// to acknowledge, so a beep has to do.
+bool ReminderReview::Announce(const DiaryEvent& event) {
+    Speaker& speech = rooms_.Speech;
+    if (!speech.AgentLoaded()) {
+        rooms_.Bell.Beep();
+        return true;
+    }
+    speech.SetStopSpeaking(false);
+    speech.Show();
+    for (const std::string& text :
+         {std::string("Messenger Reminder Service."), event.Msg, std::string("At."),
+          SpokenTime(event)}) {
+        speech.Speak(text);
+    }
+    const bool acknowledged =
+        rooms_.Loop.WaitUntil([&] { return speech.StopSpeaking(); }, kAcknowledgeTime);
+    if (speech.IsVisible()) {
+        speech.Hide();
+    }
+    speech.SetStopSpeaking(false);
+    return acknowledged;
+}
+
+ReminderReview::Delivery ReminderReview::Call(const DiaryEvent& event, PassKind kind) {
+    if (kind == PassKind::FirstDraw) {
+        return Delivery::UsedUp;
+    }
+    if (rooms_.Phone.Modem() != ModemState::On) {
+        return Delivery::Pending;
+    }
+    bool done = false;
+    if (IsTurn(phoneRepeatCount_, rooms_.Settings.PhoneRepeat)) {
+        phoneRepeatCount_ = 0;
+        done = CallNumbers(event);
+    }
+    ++phoneRepeatCount_;
+    if (done) {
+        phoneRepeatCount_ = 0;
+    }
+    return done ? Delivery::UsedUp : Delivery::Pending;
+}
+
+bool ReminderReview::CallNumbers(const DiaryEvent& event) {
+    for (const std::size_t i : kNumbers) {
+        const std::string& number = event.Extra[i];
+        bool done = false;
+        if (!number.empty()) {
+            const bool is101 = rooms_.Settings.ModemName == kIs101Modem;
+            done = rooms_.Phone.SendMessage("ATD" + number + (is101 ? ";" : ""), event.Msg);
+        }
+        if (done || rooms_.Phone.Modem() != ModemState::On) {
+            return done;
+        }
+        if (!number.empty() && i != kNumbers.back()) {
+            rooms_.Phone.Delay(kPauseBetweenCalls);
+        }
+    }
+    return false;
+}
+
+} // namespace kestrova

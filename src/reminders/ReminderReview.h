@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calendar/Selection.h"
+#include "diary/DiaryStore.h"
+#include "language/Kinds.h"
+#include "mail/ReminderMail.h"
+#include "media/MediaPanel.h"
+#include "phone/PhoneCaller.h"
+#include "platform/Beeper.h"
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "settings/AppSettings.h"
+#include "speech/Speaker.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrova {
+
+// Modems of this name need ";" after the number.
+inline constexpr std::string_view kIs101Modem = "Generic IS-101 Voice Modem";
+
+// Why a pass runs.
+enum class PassKind {
+    Ordinary,
+    FirstDraw, // before the month has been drawn for the first time: nothing is delivered
+    Clearing   // the user has cleared the reminder window: what it showed has been delivered
+};
+
+// The line of an event in the reminder window: "09:05    Dentist".
+[[nodiscard]] std::string ReminderLine(const DiaryEvent& event);
+
+// Goes through today's events once a minute and delivers every reminder whose time has come. One
+// that has been delivered is used up: its kind becomes None, in memory at once and in the file with
+// the next save. One that could not be delivered stays due for the rest of the day.
+class ReminderReview {
+public:
+    struct Rooms {
+        DiaryStore& Store;
+        const Selection& Dates;
+        const StringTable& Texts;
+        const AppSettings& Settings;
+        Speaker& Speech;
+        PhoneCaller& Phone;
+        ReminderMail& Mail;
+        MediaPanel& Media;
+        EventLoop& Loop;
+        Beeper& Bell;
+    };
+
+    explicit ReminderReview(const Rooms& rooms) : rooms_(rooms) {}
+
+    // Reviews today's events. Deliveries may wait and handle events meanwhile; the review finds its
+    // event again by what it holds. Returns the lines for the reminder window, in order.
+    std::vector<std::string> Review(const WallTime& now, PassKind kind);
+
+    // Whether a review has marked events that the diary's file does not have marked.
+    [[nodiscard]] bool HasChanges() const { return !usedUp_.empty(); }
+
+    // Writes what has been used up to the diary's file, and re-sorts today. What cannot be written
+    // now is written with a later call.
+    ChangeResult Save(BusyMessage busy);
+
+    // Marks the events again in a diary that has been loaded anew before all could be written.
+    void Reapply() { ApplyMarks(rooms_.Store.Table()); }
+
+    // Forgets what has not been written: the marks belonged to a diary that is no longer shown.
+    void Forget() { usedUp_.clear(); }
+
+private:
+    enum class Delivery { UsedUp, Pending };
+
+    struct UsedUp {
+        CalendarDate Date;
+        DiaryEvent Event; // as it was before
+    };
+
+    [[nodiscard]] DayPlace Today() const;
+    Delivery Deliver(const DiaryEvent& event, PassKind kind);
+    Delivery Screen(const DiaryEvent& event, PassKind kind);
+    Delivery Speak(const DiaryEvent& event, PassKind kind);
+    bool Announce(const DiaryEvent& event);
+    Delivery Call(const DiaryEvent& event, PassKind kind);
+    bool CallNumbers(const DiaryEvent& event);
+    void MarkUsedUp(const DiaryEvent& event);
+    void ApplyMarks(DiaryTable& table) const;
+
+    Rooms rooms_;
+    int speakRepeatCount_ = 0; // SpeakRepeatCount
+    int phoneRepeatCount_ = 0; // PhoneRepeatCount
+    std::vector<std::string> lines_;
+    std::vector<DiaryEvent> shown_; // what the reminder window shows
+    std::vector<UsedUp> usedUp_;    // what the file does not have yet
+};
+
+} // namespace kestrova

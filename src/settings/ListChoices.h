@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "settings/AppSettings.h"
+
+#include <optional>
+#include <string_view>
+
+namespace kestrova {
+
+// Choices from lists are held by their displayed text. The numbers are the list indexes.
+enum class ChimeType { Speech = 0, Chime = 1, None = 2 };
+enum class ChimeInterval { Never = 0, Hour = 1, HalfHour = 2, QuarterHour = 3, FiveMinutes = 4 };
+
+// Nothing for a text that is in no list of this language.
+[[nodiscard]] std::optional<ChimeType> ChimeTypeOf(const AppSettings& settings,
+                                                   const StringTable& table);
+[[nodiscard]] std::optional<ChimeInterval> ChimeIntervalOf(const AppSettings& settings,
+                                                           const StringTable& table);
+
+// Whether a modem port is chosen: anything but the list's first entry, "None".
+[[nodiscard]] bool HasModemPort(const AppSettings& settings, const StringTable& table);
+
+// Gives every choice the text that the new language has for it. A text that the old language does
+// not know is kept.
+void TranslateChoices(AppSettings& settings, const StringTable& before, const StringTable& after);
+
+} // namespace kestrova

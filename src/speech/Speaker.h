@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace kestrova {
+
+// What becomes of the character when it has spoken.
+enum class AfterSpeaking { Stay, Hide };
+
+// The speaking character, as the rest of the program uses it.
+class Speaker {
+public:
+    virtual ~Speaker() = default;
+
+    // Loads the character that the settings name; false when none can be had.
+    virtual bool LoadCharacter() = 0;
+
+    // Whether a character is loaded.
+    [[nodiscard]] virtual bool AgentLoaded() const = 0;
+
+    [[nodiscard]] virtual bool IsVisible() const = 0;
+    virtual void Show() = 0;
+    virtual void Hide() = 0;
+
+    // Begins to speak and returns at once; texts are spoken one after the other.
+    virtual void Speak(const std::string& text) = 0;
+
+    // Set when the user clicks the character, by which a spoken reminder is acknowledged.
+    [[nodiscard]] virtual bool StopSpeaking() const = 0;
+    virtual void SetStopSpeaking(bool stop) = 0;
+
+    // Speaks a text of any length and returns when it has been spoken. Nothing happens while speech
+    // is switched off.
+    virtual void Talk(const std::string& text, AfterSpeaking after) = 0;
+
+    // Shows the character and speaks a short text without waiting.
+    virtual void TellTime(const std::string& text, AfterSpeaking after) = 0;
+};
+
+} // namespace kestrova

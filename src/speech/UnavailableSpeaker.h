@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "speech/Speaker.h"
+
+namespace kestrova {
+
+// The speaker of a program that cannot speak: there is no character, and none can be loaded.
+class UnavailableSpeaker : public Speaker {
+public:
+    bool LoadCharacter() override { return false; }
+    [[nodiscard]] bool AgentLoaded() const override { return false; }
+    [[nodiscard]] bool IsVisible() const override { return false; }
+    void Show() override {}
+    void Hide() override {}
+    void Speak(const std::string& /*text*/) override {}
+    [[nodiscard]] bool StopSpeaking() const override { return false; }
+    void SetStopSpeaking(bool /*stop*/) override {}
+    void Talk(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
+    void TellTime(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
+};
+
+} // namespace kestrova
