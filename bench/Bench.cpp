@@ -117,6 +117,9 @@ int main(int argc, char* argv[]) {
     } else {
         arguments.erase(once);
     }
+    // The files register their work in no order that one could rely on.
+    std::sort(AllWork().begin(), AllWork().end(),
+              [](const BoundedWork& a, const BoundedWork& b) { return a.Name < b.Name; });
     int count = static_cast<int>(arguments.size());
     arguments.push_back(nullptr);
     benchmark::Initialize(&count, arguments.data());

@@ -19,7 +19,7 @@ struct BoundedWork {
     double Bound;
 };
 
-// All the work there is, in the order of the table.
+// All the work there is.
 [[nodiscard]] std::vector<BoundedWork>& AllWork();
 
 // Adds work to the table when the program starts; one object of this kind for each piece of work.

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Dialogs.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kestrova {
+
+// A user who answers what a test has told them to, and remembers what they were shown. Asked more
+// than they were told, they cancel.
+class ScriptedDialogs : public Dialogs {
+public:
+    std::vector<Message> Shown;
+    std::vector<Message> Asked;
+    std::vector<std::string> Prompts;
+    std::deque<bool> Answers;
+    std::deque<std::optional<std::string>> Inputs;
+    std::deque<std::optional<std::string>> Files;
+    std::function<void()> WhileOpen; // called while a message is open
+
+    void Show(const Message& message) override {
+        Shown.push_back(message);
+        if (WhileOpen) {
+            WhileOpen();
+        }
+    }
+
+    bool Ask(const Message& message, const AnswerCaptions& /*captions*/) override {
+        Asked.push_back(message);
+        if (WhileOpen) {
+            WhileOpen();
+        }
+        return Take(Answers, false);
+    }
+
+    std::optional<std::string> Input(const std::string& /*title*/, const std::string& prompt,
+                                     const std::string& offered) override {
+        Prompts.push_back(prompt + " " + offered);
+        return Take(Inputs, std::optional<std::string>());
+    }
+
+    std::optional<std::string> OpenFile(const std::string& /*folder*/,
+                                        const std::string& filter) override {
+        Prompts.push_back(filter);
+        return Take(Files, std::optional<std::string>());
+    }
+
+private:
+    template<typename T> static T Take(std::deque<T>& answers, T otherwise) {
+        if (answers.empty()) {
+            return otherwise;
+        }
+        T answer = std::move(answers.front());
+        answers.pop_front();
+        return answer;
+    }
+};
+
+} // namespace kestrova
