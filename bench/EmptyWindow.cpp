@@ -7,7 +7,7 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QWidget window;
     window.setWindowTitle(QStringLiteral("Empty window"));
-    window.resize(900, 640);
+    window.resize(1080, 640); // as large as the program's first window
     window.show();
     return QApplication::exec();
 }

@@ -29,12 +29,13 @@ struct EmptyDiary {
     }
 };
 
-// A whole diary is too long for a fuzzer to find, so the input is laid over some records of an
-// empty one: its first two bytes say which, the rest stands in the place of as many lines.
+// A whole diary is too long for a fuzzer to find, so the input is laid over some records of an empty
+// one, near the front or near the end: its first two bytes say where, the rest stands in the place
+// of as many lines.
 std::string LaidOver(const EmptyDiary& empty, std::string_view input) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(input[i]); };
     const std::size_t records = empty.LineStarts.size() / kLinesPerRecord;
-    const std::size_t record = (byte(0) * std::size_t{256} + byte(1)) % records;
+    const std::size_t distance = static_cast<unsigned char>(input[0]);
+    const std::size_t record = input[1] % 2 == 0 ? distance : records - 1 - distance;
     std::string lines(input.substr(2));
     if (!lines.empty() && lines.back() != '\n') {
         lines += '\n';

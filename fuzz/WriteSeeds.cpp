@@ -88,10 +88,10 @@ void WriteDiarySeeds(const std::filesystem::path& root) {
     const std::string event =
         " 9 \r\n 30 \r\nDentist\r\nMonthly\r\nScreen\r\n 0 \r\n\r\n\r\n\r\n\r\n";
     seeds.Write("first", std::string(2, '\0') + event);
-    seeds.Write("last", "\x23\xBF" + event);
-    seeds.Write("two", "\x01\x02" + event + event);
-    seeds.Write("old", "\x01\x02-1\n32767\nCaf\xE9\n\nEmail\n1\na@b.c\n5\n\xC3\xA9\nx\n");
-    seeds.Write("short", std::string("\x01\x02 9 \r\n", 7));
+    seeds.Write("last", std::string("\0\1", 2) + event);
+    seeds.Write("two", "\2\2" + event + event);
+    seeds.Write("old", "\1\1-1\n32767\nCaf\xE9\n\nEmail\n1\na@b.c\n5\n\xC3\xA9\nx\n");
+    seeds.Write("short", "\2\2 9 \r\n");
 }
 
 void WriteJournals(const std::filesystem::path& root) {

@@ -9,7 +9,6 @@
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kestrova"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Kestrova"));
     QApplication::setApplicationVersion(QStringLiteral(KESTROVA_VERSION));
     // Hidden, the program goes on giving reminders.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -20,7 +20,7 @@ end_process() {
 start_virtual_display() {
     local folder=$1 number=
     mkfifo "$folder/display"
-    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp \
+    Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp -noreset \
         3>"$folder/display" >/dev/null 2>"$folder/xvfb.log" &
     xvfb=$!
     # Opened for reading and writing, so that a server that dies cannot leave us waiting at the pipe.

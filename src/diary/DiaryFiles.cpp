@@ -39,6 +39,7 @@ Result<OpenDiary> DiaryFiles::Open(const std::string& folder, LockKind kind) {
     }
     OpenDiary opened{std::move(lock.Value()), std::nullopt};
     if (kind == LockKind::Exclusive) {
+        files_.RemoveLeftovers(NoteFolder(folder));
         opened.RolledTo = CompleteSave(folder);
     }
     return opened;

@@ -70,6 +70,10 @@ public:
     // there is no such folder.
     [[nodiscard]] virtual std::vector<std::string> List(const std::string& folder) const = 0;
 
+    // Deletes what writes that a crash has cut short have left in a folder. Only for a folder in which
+    // nobody is writing.
+    virtual void RemoveLeftovers(const std::string& folder) = 0;
+
     // Locks the file at `path` for everyone who uses this function, by way of a small companion file
     // beside it, and refuses when another program has locked the file itself. Waits at most `limit`.
     // Busy when someone else holds it or the folder cannot be written (Exclusive); a folder that

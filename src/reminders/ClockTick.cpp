@@ -36,9 +36,11 @@ void ClockTick::Timer1_Timer() {
         return;
     }
     const WallTime now = rooms_.Time.Now();
-    const bool missedStart =
-        lastMinute_ && *lastMinute_ != MinuteOf(now) && now.Second != 0;
+    const bool newMinute = lastMinute_ && *lastMinute_ != MinuteOf(now);
     lastMinute_ = MinuteOf(now);
+    if (newMinute) {
+        minuteLatch_ = false;
+    }
     if (now.Second % kSecondsBetweenLooks == 0) {
         LookAtFile();
     }
@@ -46,19 +48,19 @@ void ClockTick::Timer1_Timer() {
         return;
     }
     const bool repeated = now.Second == 0 && minuteLatch_;
-    if (IsPassDue(now, missedStart)) {
+    if (IsPassDue(now, newMinute)) {
         const PassGuard guard(inPass_);
         Pass(now, repeated);
     }
 }
 
-bool ClockTick::IsPassDue(const WallTime& now, bool missedStart) {
-    if (now.Second != 0 && !forcePass_ && !missedStart) {
+bool ClockTick::IsPassDue(const WallTime& now, bool newMinute) {
+    if (now.Second != 0 && !forcePass_ && !newMinute) {
         minuteLatch_ = false;
         return false;
     }
     // What the user has cleared must not come back because the pass of this second has run.
-    if (minuteLatch_ && !missedStart && !clearing_) {
+    if (minuteLatch_ && !clearing_) {
         forcePass_ = false;
         return false;
     }

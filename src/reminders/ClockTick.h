@@ -81,7 +81,7 @@ public:
 
 private:
     void LookAtFile();
-    bool IsPassDue(const WallTime& now, bool missedStart);
+    bool IsPassDue(const WallTime& now, bool newMinute);
     void Pass(const WallTime& now, bool repeated);
     void Chime(const WallTime& now);
     void RefreshToday(const WallTime& now);

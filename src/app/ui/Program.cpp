@@ -131,6 +131,7 @@ void Program::GetPaths() {
         // Whatever cannot be made shows itself, with a message, when something is kept there.
         (void)files_.MakeFolder(dataFolder_ + name);
     }
+    files_.RemoveLeftovers(dataFolder_);
 }
 
 void Program::ModemCheck() {

@@ -20,6 +20,7 @@ constexpr int kRowsTop = 840;   // of the headings; row i stands i rows below
 constexpr int kTimeLeft = 300;
 constexpr int kTimeWidth = 900;
 constexpr int kEventLeft = 1300;
+constexpr int kEventIndent = 6; // pixels
 constexpr int kAddTop = 4305;
 constexpr int kAddHeight = 500;
 constexpr int kButtonsTop = 5000;
@@ -105,16 +106,16 @@ void Diary::BuildRows() {
     LabHead->setAlignment(Qt::AlignCenter);
     LabMsg = label(QStringLiteral("LabMsg"));
     LabHide = label(QStringLiteral("LabHide"));
-    LabHide->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     for (int i = 0; i <= kEventsPerDay; ++i) {
         const auto index = static_cast<std::size_t>(i);
         LabTime[index] = label(ArrayName("LabTime", i));
+        LabTime[index]->setIndent(8);
         LabRpt[index] = label(ArrayName("LabRpt", i));
         LabRmd[index] = label(ArrayName("LabRmd", i));
         auto* const row = new RowLabel(page_);
         row->setObjectName(ArrayName("LabEvent", i));
         row->setTextFormat(Qt::PlainText);
-        row->setIndent(6);
+        row->setIndent(kEventIndent);
         row->setAttribute(Qt::WA_Hover);
         row->Clicked = [this, i] { LabEvent_DblClick(i); };
         row->DoubleClicked = row->Clicked;
@@ -214,19 +215,19 @@ void Diary::PlaceControls() {
     };
     LabHead->setGeometry(0, Pixels(150), page_->width(), Pixels(600));
     place(LabMsg, 1000, Pixels(kRowsTop), width - 3900);
-    LabMsg->setIndent(Pixels(kEventLeft - 1000) + 6);
-    place(LabHide, width - 750, Pixels(kRowsTop), 700);
+    LabMsg->setIndent(Pixels(kEventLeft - 1000) + kEventIndent);
+    place(LabHide, width - 600, Pixels(kRowsTop), 600);
     for (int row = 0; row <= kEventsPerDay; ++row) {
         const auto i = static_cast<std::size_t>(row);
         const int top = RowTop(row);
-        place(LabTime[i], kTimeLeft + 120, top, kTimeWidth);
+        place(LabTime[i], kTimeLeft, top, kTimeWidth);
         place(LabRpt[i], width - 3100, top, 1350);
         place(LabRmd[i], width - 1700, top, 1050);
         if (row > 0) {
             place(LabEvent[i], kEventLeft, top, width - 4500);
             place(ChkHide[i], width - 600, top, 400);
-            LabNum[i - 1]->setGeometry(Pixels(60), Pixels((row - 1) * kRowHeight + 1140),
-                                       Pixels(300), height);
+            LabNum[i - 1]->setGeometry(0, Pixels((row - 1) * kRowHeight + 1140),
+                                       Pixels(kTimeLeft) - 2, height);
         }
     }
     LabEvent[0]->setGeometry(Pixels(kEventLeft), Pixels(kAddTop), Pixels(width - 4500),

@@ -3,6 +3,7 @@
 
 #include "platform/posix/FileDescriptor.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -20,6 +21,7 @@ namespace {
 constexpr mode_t kFileMode = 0666; // narrowed by the user's umask
 constexpr mode_t kFolderMode = 0777;
 constexpr std::chrono::milliseconds kLockPause{10};
+constexpr std::string_view kTemporaryMark = ".new-"; // then six characters
 
 Error SystemError(const std::string& path) {
     const int number = errno;
@@ -68,7 +70,7 @@ void SyncFolderOf(const std::string& path) {
 
 // A new file in the target's folder under a name nobody else uses; the target's mode, if it exists.
 FileDescriptor OpenTemporary(const std::string& path, std::string& temporary) {
-    temporary = path + ".XXXXXX";
+    temporary = path + std::string(kTemporaryMark) + "XXXXXX";
     FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (file) {
         struct stat old {};
@@ -251,6 +253,16 @@ std::vector<std::string> PosixFileStore::List(const std::string& folder) const {
     }
     ::closedir(handle);
     return names;
+}
+
+void PosixFileStore::RemoveLeftovers(const std::string& folder) {
+    constexpr std::size_t kTail = kTemporaryMark.size() + 6;
+    for (const std::string& name : List(folder)) {
+        if (name.size() > kTail && name.compare(name.size() - kTail, kTemporaryMark.size(),
+                                                kTemporaryMark) == 0) {
+            ::unlink((folder + name).c_str());
+        }
+    }
 }
 
 Result<std::unique_ptr<FileLock>> PosixFileStore::Lock(const std::string& path, LockKind kind,

@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/DiaryStore.h"
+
+#include "diary/DiaryScene.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrova {
+namespace {
+
+constexpr DayPlace kDay{14, 4, 0};
+constexpr const char* kJournalPath = "/home/me/DiaryDat/Saving.tmp";
+
+TEST(DiaryStoreTest, AMissingDiaryIsMadeWithAMessage) {
+    DiaryScene scene;
+    scene.Store.GetData("/elsewhere/");
+    ASSERT_EQ(scene.Boxes.Shown.size(), 1U);
+    EXPECT_EQ(scene.Boxes.Shown[0].Title, "Kestrova Messenger");
+    EXPECT_EQ(scene.Boxes.Shown[0].Text, "Your Diary Data Files Are Corrupt or Missing\n"
+                                         " The Files Will Be  Re-Formatted ");
+    EXPECT_EQ(scene.Boxes.Shown[0].Icon, DialogIcon::Critical);
+    scene.Store.GetData("/elsewhere/");
+    EXPECT_EQ(scene.Boxes.Shown.size(), 1U) << "the new file loads without a message";
+}
+
+TEST(DiaryStoreTest, ADamagedDiaryIsKeptAside) {
+    DiaryScene scene;
+    scene.Files.Put(kDataPath, "no diary");
+    scene.Store.GetData(kFolder);
+    EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+    const auto aside = scene.FindPathWith("Data damaged 2026-11-22 09.00.00");
+    ASSERT_TRUE(aside);
+    EXPECT_EQ(scene.Files.Content(*aside), "no diary");
+    EXPECT_TRUE(scene.OnFile() == DiaryTable());
+    EXPECT_EQ(scene.Store.Table().At({1, kDay}), DiaryEvent{});
+}
+
+TEST(DiaryStoreTest, ADiaryThatCannotBeKeptAsideIsNotReplaced) {
+    DiaryScene scene;
+    scene.Files.Put(kDataPath, "no diary");
+    scene.Files.FailWrites(Error{ErrorCode::Full, "No space left on device"});
+    scene.Store.GetData(kFolder);
+    EXPECT_EQ(scene.Files.Content(kDataPath), "no diary");
+    EXPECT_EQ(scene.Stops, 1) << "the user was asked and gave up";
+}
+
+TEST(DiaryStoreTest, ABusyDiaryIsLeftAlone) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "mine"));
+    scene.Files.HoldLock(kDataPath);
+    scene.Store.GetData(kFolder);
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "later")), ChangeResult::NotSaved);
+    ASSERT_EQ(scene.Boxes.Shown.size(), 2U);
+    for (const Message& message : scene.Boxes.Shown) {
+        EXPECT_EQ(message.Text, "Diary Busy");
+        EXPECT_EQ(message.Title, "Kestrova");
+    }
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "mine");
+    scene.Files.ReleaseLock(kDataPath);
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "later")), ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "mine later");
+    EXPECT_EQ(scene.Files.LocksHeld(), 0);
+}
+
+TEST(DiaryStoreTest, NoPermissionIsBusyToo) {
+    DiaryScene scene;
+    scene.Files.FailWrites(Error{ErrorCode::Busy, "Permission denied"});
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(9, 0, "x")), ChangeResult::NotSaved);
+    EXPECT_EQ(scene.Boxes.Shown.at(0).Text, "Diary Busy");
+    EXPECT_EQ(scene.Stops, 0);
+}
+
+TEST(DiaryStoreTest, AFullDiscEndsTheProgramUnlessTheUserTriesAgain) {
+    DiaryScene scene;
+    const auto before = scene.Files.Content(kDataPath);
+    scene.Files.FailWrites(Error{ErrorCode::Full, "No space left on device"});
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(9, 0, "x")), ChangeResult::NotSaved);
+    EXPECT_EQ(scene.Boxes.Asked.at(0).Title, "Kestrova Messenger");
+    EXPECT_EQ(scene.Boxes.Asked.at(0).Text, "No space left on device");
+    EXPECT_EQ(scene.Stops, 1);
+    EXPECT_EQ(scene.Files.Content(kDataPath), before);
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "") << "memory and file agree";
+
+    scene.Boxes.Answers = {true};
+    scene.Boxes.WhileOpen = [&] {
+        EXPECT_EQ(scene.Files.LocksHeld(), 0) << "others can work while the user reads";
+        scene.Files.FailWrites({});
+    };
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(9, 0, "x")), ChangeResult::Saved);
+    EXPECT_EQ(scene.Stops, 1);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "x");
+}
+
+TEST(DiaryStoreTest, TwoPeopleKeepBothTheirEdits) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "mine"));
+    scene.WriteFromOutside(kDay, {MakeEvent(8, 0, "theirs"), MakeEvent(9, 0, "mine")});
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "mine too")), ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "theirs mine mine too");
+    EXPECT_TRUE(scene.OnFile() == scene.Store.Table());
+}
+
+TEST(DiaryStoreTest, AnEditWaitsForTheOtherAndSeesWhatItWrote) {
+    DiaryScene scene;
+    scene.Files.BeforeLock = [&] {
+        scene.Files.BeforeLock = {};
+        scene.WriteFromOutside(kDay, {MakeEvent(8, 0, "just in time")});
+    };
+    scene.Insert(kDay, MakeEvent(9, 0, "mine"));
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "just in time mine");
+}
+
+TEST(DiaryStoreTest, SavingOverADamagedFileKeepsBothTheFileAndTheMemory) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "in memory"));
+    scene.Files.Put(kDataPath, "someone's accident");
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "new")), ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "in memory new");
+    const auto aside = scene.FindPathWith("damaged");
+    ASSERT_TRUE(aside);
+    EXPECT_EQ(scene.Files.Content(*aside), "someone's accident");
+}
+
+TEST(DiaryStoreTest, AnEditThatLeavesAllAsItIsWritesNothing) {
+    DiaryScene scene;
+    const int writes = scene.Files.Writes();
+    const auto leave = [](EventList& events) {
+        events.Table().At({1, kDay}).Msg = "never mind";
+        return EditVerdict::Leave;
+    };
+    EXPECT_EQ(scene.Store.Change(leave), ChangeResult::Left);
+    EXPECT_EQ(scene.Files.Writes(), writes);
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "");
+}
+
+TEST(DiaryStoreTest, AChangeFromOutsideIsNoticed) {
+    DiaryScene scene;
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same);
+    scene.Insert(kDay, MakeEvent(9, 0, "own"));
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same) << "own saves are no news";
+    scene.WriteFromOutside(kDay, {MakeEvent(8, 0, "theirs")});
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded);
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "theirs");
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same);
+}
+
+TEST(DiaryStoreTest, AFileThatIsBeingWrittenIsNotTakenForDamaged) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "kept"));
+    const std::string whole = *scene.Files.Content(kDataPath);
+    scene.Files.Put(kDataPath, whole.substr(0, 1000));
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same);
+    scene.Files.Put(kDataPath, whole.substr(0, 2000)); // it grows
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same);
+    EXPECT_TRUE(scene.Boxes.Shown.empty());
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "kept");
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded) << "it grows no more: it is damaged";
+    EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+    EXPECT_TRUE(scene.FindPathWith("damaged"));
+}
+
+TEST(DiaryStoreTest, AFolderThatHasGoneIsNoDamage) {
+    DiaryScene scene;
+    (void)scene.Files.Remove(kDataPath);
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::FolderGone);
+    EXPECT_TRUE(scene.Boxes.Shown.empty());
+}
+
+TEST(DiaryStoreTest, LinesThatNoRecordUsesAreKeptAside) {
+    DiaryScene scene;
+    const std::string longer = *scene.Files.Content(kDataPath) + "a precious line\r\n";
+    scene.Files.Put(kDataPath, longer);
+    scene.Store.GetData(kFolder);
+    EXPECT_TRUE(scene.Boxes.Shown.empty());
+    const auto aside = scene.FindPathWith("with more lines");
+    ASSERT_TRUE(aside);
+    EXPECT_EQ(scene.Files.Content(*aside), longer);
+}
+
+TEST(DiaryStoreTest, FormattingClearsEventsAndNotes) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "x"));
+    scene.Files.Put(scene.NotePath({1, kDay}), "note");
+    scene.Files.Put("/home/me/DiaryDat/letter.txt", "not a note");
+    EXPECT_EQ(scene.Store.DataFormat(), ChangeResult::Saved);
+    EXPECT_TRUE(scene.OnFile() == DiaryTable());
+    EXPECT_FALSE(scene.Files.Content(scene.NotePath({1, kDay})));
+    EXPECT_TRUE(scene.Files.Content("/home/me/DiaryDat/letter.txt"));
+}
+
+// Crashes an operation at each of its writes in turn, and looks at what the next start finds.
+template<typename Operation, typename Check> void CrashEverywhere(Operation operation, Check check) {
+    for (int at = 0; at < 20; ++at) {
+        SCOPED_TRACE("crash before write " + std::to_string(at));
+        DiaryScene scene;
+        for (int slot = 1; slot <= 3; ++slot) {
+            const std::string name = "event " + std::to_string(slot);
+            scene.Insert(kDay, MakeEvent(slot, 0, name));
+            scene.Files.Put(scene.NotePath({slot, kDay}), "note of " + name);
+        }
+        scene.Files.CrashAfter(at);
+        operation(scene);
+        scene.Files.Recover();
+        DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
+        restarted.GetData(kFolder);
+        check(scene, restarted);
+        EXPECT_FALSE(scene.Files.Content(kJournalPath) && !restarted.RolledTo());
+    }
+}
+
+TEST(DiaryStoreTest, ACrashNeverPartsAnEventFromItsNote) {
+    bool oldSeen = false;
+    bool newSeen = false;
+    CrashEverywhere(
+        [](DiaryScene& scene) {
+            (void)scene.Store.Change([](EventList& events) {
+                events.DeleteMsg({2, kDay});
+                events.ReSortMsg(kDay);
+                return EditVerdict::Save;
+            });
+        },
+        [&](DiaryScene& scene, DiaryStore& restarted) {
+            const std::string after = Messages(restarted.Table(), kDay);
+            oldSeen = oldSeen || after == "event 1 event 2 event 3";
+            newSeen = newSeen || after == "event 1 event 3";
+            EXPECT_TRUE(after == "event 1 event 2 event 3" || after == "event 1 event 3") << after;
+            for (int slot = 1; slot <= 4; ++slot) {
+                const DiaryEvent& event = restarted.Table().At({slot, kDay});
+                const auto note = scene.Files.Content(scene.NotePath({slot, kDay}));
+                EXPECT_EQ(note.value_or(""), event.IsFree() ? "" : "note of " + event.Msg);
+            }
+        });
+    EXPECT_TRUE(oldSeen);
+    EXPECT_TRUE(newSeen);
+}
+
+TEST(DiaryStoreTest, ACrashedRollOverIsFoundOrNeverHappened) {
+    bool oldSeen = false;
+    bool newSeen = false;
+    CrashEverywhere(
+        [](DiaryScene& scene) {
+            scene.Insert({14, 4, 1}, MakeEvent(5, 0, "next year"));
+            (void)scene.Store.BringForward(kFolder, 2025, 2026);
+        },
+        [&](DiaryScene& scene, DiaryStore& restarted) {
+            const std::string after = Messages(restarted.Table(), kDay);
+            const bool rolled = after == "next year" || after.empty();
+            EXPECT_EQ(restarted.RolledTo().has_value(), rolled);
+            oldSeen = oldSeen || !rolled;
+            newSeen = newSeen || rolled;
+            if (rolled) {
+                EXPECT_TRUE(scene.FindPathWith("Data before 2026")) << "the old year is kept";
+                EXPECT_FALSE(scene.Files.Content(scene.NotePath({1, kDay})).has_value());
+            }
+        });
+    EXPECT_TRUE(oldSeen);
+    EXPECT_TRUE(newSeen);
+}
+
+TEST(DiaryStoreTest, ARollOverStaysKnownThroughAnothersEdits) {
+    DiaryScene scene;
+    ASSERT_EQ(scene.Store.BringForward(kFolder, 2025, 2026), ChangeResult::Saved);
+    // Before the roll-over is finished, another program edits the same diary, with a note.
+    DiaryStore other(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
+    other.GetData(kFolder);
+    (void)other.Change([](EventList& events) {
+        events.Table().At({kScratchSlot, kDay}) = MakeEvent(9, 0, "theirs");
+        events.Notes().Put({kScratchSlot, kDay}, "their note");
+        events.SortMsg(kDay);
+        return EditVerdict::Save;
+    });
+    DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
+    restarted.GetData(kFolder);
+    EXPECT_EQ(restarted.RolledTo(), 2026);
+    EXPECT_EQ(scene.Files.Content(scene.NotePath({1, kDay})), "their note");
+    restarted.FinishRollOver(kFolder);
+    restarted.GetData(kFolder);
+    EXPECT_EQ(restarted.RolledTo(), std::nullopt);
+}
+
+TEST(SaveJournalTest, ComesBackAndRefusesWhatIsNone) {
+    SaveJournal journal;
+    journal.DiaryDigest = 18446744073709551615U;
+    journal.DiarySize = 12;
+    journal.RolledTo = -2026;
+    journal.Notes["BBAA.txt"] = std::string("end\nNUL \0 and\r\nall", 19);
+    journal.Notes["b2aa.txt"] = std::nullopt;
+    journal.Notes["CBAA.txt"] = "";
+    const std::string bytes = WriteJournal(journal);
+    EXPECT_EQ(ReadJournal(bytes), journal);
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
+        EXPECT_FALSE(ReadJournal(bytes.substr(0, length))) << length;
+    }
+    EXPECT_FALSE(ReadJournal("Kestrova save 1\ngone ../../passwd\nend\n"));
+    EXPECT_FALSE(ReadJournal("Kestrova save 1\nnote BBAA.txt 99999999999\nx\nend\n"));
+}
+
+} // namespace
+} // namespace kestrova
