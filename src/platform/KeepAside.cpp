@@ -11,7 +11,11 @@ constexpr int kMaxNames = 100;
 
 std::string AsideName(const WallTime& now, const std::string& path, std::string_view mark,
                       int number) {
-    const std::size_t dot = path.rfind('.');
+    // A dot at the beginning of the name, or in a folder's, parts no ending off.
+    const std::size_t nameStart = path.rfind('/') + 1;
+    const std::size_t lastDot = path.rfind('.');
+    const bool hasEnding = lastDot != std::string::npos && lastDot > nameStart;
+    const std::size_t dot = hasEnding ? lastDot : std::string::npos;
     std::string name = path.substr(0, dot);
     name.append(" ").append(mark);
     name += " " + std::to_string(now.Year) + "-" + TwoDigits(now.Month + 1) + "-" +

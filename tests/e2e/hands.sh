@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # what belongs to the stage is set there
 # Eyes and hands: finding windows, and real key strokes and clicks. To be sourced by stage.sh.
 # A window is one of the program $program unless another process id is given.
 
@@ -45,7 +45,10 @@ type_text() { xdotool type --delay 30 "$1"; }
 click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }
 
 # Prints the width and the height of a window.
-size_of() { (eval "$(xdotool getwindowgeometry --shell "$1")" && echo "$WIDTH $HEIGHT"); }
+size_of() {
+    xdotool getwindowgeometry --shell "$1" |
+        awk -F= '$1 == "WIDTH" { width = $2 } $1 == "HEIGHT" { print width, $2 }'
+}
 
 is_gone() { ! xprop -id "$1" WM_STATE 2>/dev/null | grep -q 'Normal'; }
 

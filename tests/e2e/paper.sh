@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2154 # what belongs to the stage is set there
 # Reading and writing the program's files without the program. To be sourced by stage.sh.
 # A place is: year index (0 or 1), month (0-11), day (1-31), slot (1-10).
 

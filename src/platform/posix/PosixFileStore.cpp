@@ -68,15 +68,17 @@ void SyncFolderOf(const std::string& path) {
     }
 }
 
-// A new file in the target's folder under a name nobody else uses; the target's mode, if it exists.
-FileDescriptor OpenTemporary(const std::string& path, std::string& temporary) {
+// A new file in the target's folder under a name nobody else uses.
+// `like` is the file whose mode it takes, if that exists.
+FileDescriptor OpenTemporary(const std::string& path, const std::string& like,
+                             std::string& temporary) {
     temporary = path + std::string(kTemporaryMark) + "XXXXXX";
     FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (file) {
         struct stat old {};
         const mode_t mask = ::umask(0);
         ::umask(mask);
-        const bool exists = ::stat(path.c_str(), &old) == 0;
+        const bool exists = ::stat(like.c_str(), &old) == 0;
         ::fchmod(file.Get(), exists ? old.st_mode & 07777U : kFileMode & ~mask);
     }
     return file;
@@ -92,7 +94,7 @@ private:
 
 // Whether another program has locked the file itself, by either of the two kinds of lock.
 bool IsForeignLocked(const std::string& path, LockKind kind) {
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (!file) {
         return false;
     }
@@ -167,7 +169,7 @@ Result<std::string> PosixFileStore::Read(const std::string& path, std::size_t li
 
 Status PosixFileStore::Replace(const std::string& path, std::string_view bytes) {
     std::string temporary;
-    FileDescriptor file = OpenTemporary(path, temporary);
+    FileDescriptor file = OpenTemporary(path, path, temporary);
     if (!file) {
         return SystemError(path);
     }
@@ -189,7 +191,7 @@ Status PosixFileStore::CopyToNew(const std::string& from, const std::string& to)
         return bytes.Failure();
     }
     std::string temporary;
-    FileDescriptor file = OpenTemporary(to, temporary);
+    FileDescriptor file = OpenTemporary(to, from, temporary);
     if (!file) {
         return SystemError(to);
     }
@@ -268,12 +270,13 @@ void PosixFileStore::RemoveLeftovers(const std::string& folder) {
 Result<std::unique_ptr<FileLock>> PosixFileStore::Lock(const std::string& path, LockKind kind,
                                                        std::chrono::milliseconds limit) {
     const std::string lockPath = path + ".lock";
-    FileDescriptor file(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kFileMode));
-    if (!file) {
-        file = FileDescriptor(::open(lockPath.c_str(), O_RDONLY | O_CLOEXEC));
-    }
+    FileDescriptor file(
+        ::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kFileMode));
     if (!file && kind == LockKind::Exclusive) {
         return SystemError(path);
+    }
+    if (!file) {
+        file = FileDescriptor(::open(lockPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     }
     const auto end = std::chrono::steady_clock::now() + limit;
     const int how = (kind == LockKind::Shared ? LOCK_SH : LOCK_EX) | LOCK_NB;
