@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "diary/ui/Diary.h"
+
+#include "diary/DiaryScene.h"
+#include "diary/ui/ScreenReminder.h"
+#include "platform/qt/QtText.h"
+#include "ui/Twips.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace kestrova {
+namespace {
+
+constexpr DayPlace kDay{14, 4, 0};
+
+struct NoDetails : ReminderDetails {
+    ModemState Modem() const override { return ModemState::Off; }
+    bool MailWorks() const override { return false; }
+    bool SoundWorks() const override { return false; }
+    bool VideoWorks() const override { return false; }
+    bool CdWorks() const override { return false; }
+    bool AskPhoneNumbers(ReminderExtra& /*extra*/) override { return false; }
+    bool AskMailAddress(ReminderExtra& /*extra*/) override { return false; }
+    void Preview(const std::string& /*path*/) override {}
+};
+
+// The day page of 14 May 2026 on a diary in memory.
+struct PageScene : DiaryScene {
+    Selection Dates{2026, 2026, kDay.Month, kDay.Day, 4, 13};
+    AppSettings Settings = FirstSettings(Texts);
+    NoDetails Details;
+    EventEditor Editor{{Store, Dates, Texts, Settings, Boxes, Details}};
+    int Changes = 0;
+    Diary Window{nullptr, {Dates, Texts, Settings, Store, Editor, Clock, Boxes}, [this] { ++Changes; }};
+
+    PageScene() {
+        Window.Open();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
+    }
+
+    template<typename Control> [[nodiscard]] Control* Find(const char* name) const {
+        auto* const control = Window.findChild<Control*>(QLatin1String(name));
+        EXPECT_NE(control, nullptr) << name;
+        return control;
+    }
+
+    [[nodiscard]] std::string Text(const char* label) const {
+        return FromQt(Find<QLabel>(label)->text());
+    }
+
+    void Click(const char* label) {
+        QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton);
+    }
+
+    // Types a new event and accepts it by Enter.
+    void Add(const char* hour, const char* msg) {
+        Click("LabEvent(0)");
+        Find<QLineEdit>("TextTme")->setText(QLatin1String(hour));
+        QTest::keyClicks(Find<QLineEdit>("TextMsg"), QLatin1String(msg));
+        QTest::keyClick(Find<QLineEdit>("TextMsg"), Qt::Key_Return);
+    }
+};
+
+TEST(DiaryWindowTest, AnEmptyDayShowsTenEmptyRowsAndTheAddLine) {
+    PageScene page;
+    EXPECT_EQ(page.Text("LabHead"), "Thursday  14    May    2026");
+    EXPECT_EQ(page.Text("LabEvent(0)"), "<<Double Click Here To Add An Event>>");
+    EXPECT_TRUE(page.Find<QLabel>("LabEvent(0)")->font().bold());
+    for (int row = 1; row <= kEventsPerDay; ++row) {
+        const std::string name = "LabEvent(" + std::to_string(row) + ")";
+        EXPECT_EQ(page.Text(name.c_str()), "");
+        EXPECT_TRUE(page.Find<QLabel>(name.c_str())->isVisible());
+    }
+    EXPECT_FALSE(page.Find<QPushButton>("ComDataAcpt")->isEnabled());
+    EXPECT_EQ(page.Find<QPushButton>("ComDataAcpt")->text(), QStringLiteral("SAVE EVENT"));
+    page.Click("LabEvent(3)");
+    EXPECT_FALSE(page.Window.IsEditing()) << "an empty row is not edited";
+}
+
+TEST(DiaryWindowTest, ControlsStandAtTheirPlaces) {
+    PageScene page;
+    const QWidget* const sheet = page.Find<QLabel>("LabHead")->parentWidget();
+    const int width = Twips(sheet->width());
+    const struct {
+        const char* Name;
+        int Left, Top, Width; // twips; -1: not given
+    } rows[] = {
+        {"LabMsg", 1000, 840, width - 3900},    {"LabHide", width - 600, 840, -1},
+        {"LabTime(1)", 300, 1155, 900},         {"LabEvent(1)", 1300, 1155, width - 4500},
+        {"LabRpt(4)", width - 3100, 2100, -1},  {"LabRmd(10)", width - 1700, 3990, -1},
+        {"ChkHide(10)", width - 600, 3990, -1}, {"LabNum(0)", -1, 1140, -1},
+        {"LabEvent(0)", 1300, 4305, -1},        {"ComDataAcpt", -1, 5000, -1},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.Name);
+        const QWidget* const control = page.Find<QWidget>(row.Name);
+        EXPECT_EQ(control->y(), Pixels(row.Top));
+        if (row.Left >= 0) {
+            EXPECT_EQ(control->x(), Pixels(row.Left));
+        }
+        if (row.Width >= 0) {
+            EXPECT_EQ(control->width(), Pixels(row.Width));
+        }
+    }
+    page.Click("LabEvent(0)");
+    EXPECT_EQ(page.Find<QWidget>("TextTme")->y(), Pixels(11 * 315 + 840));
+}
+
+TEST(DiaryWindowTest, EventsAreTypedAcceptedAndListedByTime) {
+    PageScene page;
+    page.Add("10", "ten");
+    page.Add("7", "seven");
+    EXPECT_EQ(page.Text("LabTime(1)"), "07:00");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "seven");
+    EXPECT_EQ(page.Text("LabRpt(1)"), "Never");
+    EXPECT_EQ(page.Text("LabRmd(1)"), "Screen");
+    EXPECT_EQ(page.Text("LabEvent(2)"), "ten");
+    EXPECT_EQ(page.Changes, 2);
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "seven ten");
+    EXPECT_FALSE(page.Window.IsEditing());
+}
+
+TEST(DiaryWindowTest, EscapeLeavesTheRowAsItWas) {
+    PageScene page;
+    page.Add("10", "ten");
+    page.Click("LabEvent(1)");
+    ASSERT_TRUE(page.Window.IsEditing());
+    EXPECT_FALSE(page.Find<QLabel>("LabEvent(1)")->isVisible());
+    EXPECT_EQ(page.Find<QLineEdit>("TextTme")->text(), QStringLiteral("10"));
+    QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral(" changed"));
+    QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Escape);
+    EXPECT_FALSE(page.Window.IsEditing());
+    EXPECT_TRUE(page.Window.isVisible());
+    EXPECT_EQ(page.Text("LabEvent(1)"), "ten");
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "ten");
+    QTest::keyClick(&page.Window, Qt::Key_Escape);
+    EXPECT_FALSE(page.Window.isVisible());
+}
+
+TEST(DiaryWindowTest, ClosingAsksBeforeTypedTextIsLost) {
+    for (const bool save : {true, false}) {
+        SCOPED_TRACE(save);
+        PageScene page;
+        page.Click("LabEvent(0)");
+        QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("typed"));
+        page.Boxes.Answers = {save};
+        page.Window.close();
+        EXPECT_EQ(page.Boxes.Asked.size(), 1U);
+        EXPECT_FALSE(page.Window.isVisible());
+        EXPECT_EQ(Messages(page.OnFile(), kDay), save ? "typed" : "");
+    }
+    PageScene untouched;
+    untouched.Click("LabEvent(0)");
+    untouched.Window.close();
+    EXPECT_TRUE(untouched.Boxes.Asked.empty());
+}
+
+TEST(DiaryWindowTest, TimeBoxesRefuseWhatIsNoTime) {
+    PageScene page;
+    page.Click("LabEvent(0)");
+    auto* const hour = page.Find<QLineEdit>("TextTme");
+    hour->setText(QStringLiteral("2"));
+    QTest::keyClicks(hour, QStringLiteral("4"));
+    EXPECT_EQ(hour->text(), QStringLiteral("2"));
+    QTest::keyClicks(hour, QStringLiteral("x3"));
+    EXPECT_EQ(hour->text(), QStringLiteral("23"));
+    auto* const minute = page.Find<QLineEdit>("TextTmm");
+    minute->setText(QString());
+    minute->setFocus();
+    page.Find<QLineEdit>("TextMsg")->setFocus();
+    EXPECT_EQ(minute->text(), QStringLiteral("00"));
+}
+
+TEST(DiaryWindowTest, OnTodaysPageANewEventBeginsNow) {
+    PageScene page;
+    page.Clock.Time = {2026, 4, 14, 16, 5, 0};
+    page.Click("LabEvent(0)");
+    EXPECT_EQ(page.Find<QLineEdit>("TextTme")->text(), QStringLiteral("00"));
+    QTest::keyClick(&page.Window, Qt::Key_Escape);
+    page.Dates.TodayDay = 14;
+    page.Click("LabEvent(0)");
+    EXPECT_EQ(page.Find<QLineEdit>("TextTme")->text(), QStringLiteral("16"));
+    EXPECT_EQ(page.Find<QLineEdit>("TextTmm")->text(), QStringLiteral("05"));
+}
+
+TEST(DiaryWindowTest, TheKeyboardReachesEveryRow) {
+    PageScene page;
+    page.Add("10", "ten");
+    page.Add("11", "eleven");
+    QTest::keyClick(&page.Window, Qt::Key_Down);
+    QTest::keyClick(&page.Window, Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(page.Window.IsEditing());
+    QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Escape);
+    page.Find<QLabel>("LabEvent(1)")->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "eleven");
+    page.Find<QAction>("MNU_Undo")->trigger();
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "ten eleven");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "ten");
+}
+
+TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
+    PageScene page;
+    page.Add("10", "ten");
+    auto* const menu = page.Find<QMenu>("MNU_File");
+    const auto enabled = [&](const char* name) {
+        Q_EMIT menu->aboutToShow();
+        return page.Find<QAction>(name)->isEnabled();
+    };
+    EXPECT_FALSE(enabled("MNU_Delete"));
+    EXPECT_FALSE(enabled("MNU_DelAll"));
+    page.Click("LabEvent(1)");
+    EXPECT_TRUE(enabled("MNU_Delete"));
+    EXPECT_TRUE(enabled("MNU_DelAll"));
+    page.Find<QAction>("MNU_DelAll")->trigger();
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "");
+}
+
+TEST(DiaryWindowTest, ARefusalKeepsWhatWasTyped) {
+    PageScene page;
+    page.Click("LabEvent(0)");
+    QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("typed"));
+    page.Files.HoldLock(kDataPath);
+    QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Return);
+    EXPECT_TRUE(page.Window.IsEditing());
+    EXPECT_EQ(page.Find<QLineEdit>("TextMsg")->text(), QStringLiteral("typed"));
+    page.Files.ReleaseLock(kDataPath);
+    page.Find<QPushButton>("ComDataAcpt")->click();
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "typed");
+}
+
+TEST(DiaryWindowTest, AnEventSavedInAnotherLanguageOpensWithTheFirstItems) {
+    PageScene page;
+    page.WriteFromOutside(kDay, {MakeEvent(9, 0, "x", "Täglich", "Bildschirm")});
+    page.Store.Refresh();
+    page.Window.DrawMainPage();
+    EXPECT_EQ(page.Text("LabRpt(1)"), "Täglich");
+    page.Click("LabEvent(1)");
+    EXPECT_EQ(page.Find<QComboBox>("CombRpt")->currentText(), QStringLiteral("Never"));
+    EXPECT_EQ(page.Find<QComboBox>("CombRmd")->currentText(), QStringLiteral("Screen"));
+}
+
+TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
+    const StringTable texts = MsgDefaults();
+    int cleared = 0;
+    ScreenReminder window(texts, [&] { ++cleared; });
+    window.ShowLines({"09:00    a", "09:01    b", "09:02    c"});
+    ASSERT_TRUE(window.isVisible());
+    auto* const clear = window.findChild<QPushButton*>(QStringLiteral("ComClear"));
+    EXPECT_EQ(window.height(), Pixels(2470));
+    EXPECT_EQ(clear->y(), Pixels(1620));
+    EXPECT_EQ(clear->text(), QStringLiteral("Clear Messages"));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Kestrova Messenger"));
+    EXPECT_EQ(window.findChild<QFrame*>(QStringLiteral("Frame1"))->height(), Pixels(4 * 255 + 500));
+    const auto line = [&](int i) {
+        return window.findChild<QLabel*>(QStringLiteral("LabRemind(%1)").arg(i));
+    };
+    EXPECT_EQ(line(3)->text(), QStringLiteral("09:02    c"));
+    EXPECT_TRUE(line(3)->isVisible());
+    EXPECT_FALSE(line(4)->isVisible());
+
+    QTest::mouseClick(clear, Qt::LeftButton);
+    EXPECT_EQ(cleared, 1);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(window.isEnabled());
+    window.ShowLines({"10:00    d"});
+    EXPECT_TRUE(window.isEnabled());
+    EXPECT_EQ(line(1)->text(), QStringLiteral("10:00    d"));
+    EXPECT_FALSE(line(2)->isVisible());
+    EXPECT_EQ(window.height(), Pixels(2 * 255 + 1450));
+}
+
+} // namespace
+} // namespace kestrova
