@@ -59,8 +59,7 @@ set_settings_year() { sed -i "2s/.*/ $1 \r/" "$(settings_file)"; }
 
 # Prints what lies in the program folder under a name that only a save under way has.
 temporary_files() {
-    find "$house/program/" -regextype posix-extended -regex '.*\.dat\.[A-Za-z0-9]{6}' -o \
-        -name Saving.tmp
+    find "$house/program/" -name '*.dat.?*' ! -name '*.lock' -o -name Saving.tmp
 }
 
 # Fails unless the files are whole and nothing half written lies about.

@@ -106,6 +106,8 @@ close_stage() {
     fi
     for pid in "${programs[@]}" "${openbox:-}" "${xvfb:-}"; do
         end_process "$pid"
+        # What the clock's library keeps for a process outlives one that was killed.
+        rm -f "/dev/shm/faketime_shm_$pid" "/dev/shm/sem.faketime_sem_$pid"
     done
     [[ -z ${disc:-} ]] || umount -l "$disc"
     rm -rf "$stage"
@@ -130,7 +132,7 @@ build_house() {
     house=$stage/$1
     mkdir -p "$house"/{home,program}
     mkdir -m 0700 "$house/runtime"
-    cp -a "${2:-$built}/." "$house/program"
+    cp -R "${2:-$built}/." "$house/program"
 }
 
 # Starts a program in the house. $program is its process id.

@@ -170,6 +170,28 @@ TEST_F(PosixFileStoreTest, AFullDiscLeavesTheOldFileWhole) {
     EXPECT_THAT(Names(), UnorderedElementsAre("Data.dat", "Large.dat"));
 }
 
+TEST_F(PosixFileStoreTest, WhatAKilledWriteLeavesBehindIsFoundAndRemoved) {
+    folder_.Write("Data.dat", "old bytes");
+    folder_.Write("Data.dat.lock", "");
+    folder_.Write("Mine.new", "x");
+    folder_.Write("A new one.dat", "x");
+    const int ended = OtherProcess([this] {
+        const rlimit none{0, 0};
+        const rlimit limit{1000, 1000};
+        ::setrlimit(RLIMIT_CORE, &none);
+        ::setrlimit(RLIMIT_FSIZE, &limit); // the write that passes it ends the program
+        return files_.Replace(folder_ / "Data.dat", std::string(5000, 'x')) ? 0 : 1;
+    }).Wait();
+    EXPECT_EQ(ended, -1);
+    EXPECT_EQ(folder_.Content("Data.dat"), "old bytes");
+    EXPECT_EQ(Names().size(), 5U);
+    files_.RemoveLeftovers(folder_.Path());
+    EXPECT_THAT(Names(),
+                UnorderedElementsAre("Data.dat", "Data.dat.lock", "Mine.new", "A new one.dat"));
+    EXPECT_EQ(folder_.Content("Data.dat"), "old bytes");
+    files_.RemoveLeftovers(folder_ / "none/");
+}
+
 TEST_F(PosixFileStoreTest, AFolderThatCannotBeWrittenIsBusy) {
     folder_.Write("Data.dat", "old bytes");
     folder_.Write("Private.dat", "x");
