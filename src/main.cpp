@@ -17,8 +17,10 @@ int main(int argc, char** argv) {
     if (link.Join() == kestrova::InstanceRole::Newcomer) {
         return 0;
     }
-    const kestrova::SignalWatch signals([] { QApplication::quit(); });
     kestrova::Program program(kestrova::FindDataFolder(), link);
-    program.Run();
-    return QApplication::exec();
+    const kestrova::SignalWatch signals([&program] { program.End(); });
+    // The desktop says when the session ends, too.
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
+                     [&program] { program.End(); });
+    return program.Run();
 }

@@ -48,9 +48,11 @@ public:
         work_[static_cast<std::size_t>(step)] = std::move(work);
     }
 
-    void Run() const {
+    // Runs the steps for as long as `goesOn` says so: the session may end during a message that one
+    // of them shows.
+    void Run(const std::function<bool()>& goesOn) const {
         for (const auto& work : work_) {
-            if (work) {
+            if (work && goesOn()) {
                 work();
             }
         }

@@ -30,17 +30,17 @@ TEST(StartUpTest, StepsRunInTheirOrderHoweverTheyWereFilled) {
     for (auto step = order.rbegin(); step != order.rend(); ++step) {
         startUp.Fill(*step, [&run, step] { run.push_back(*step); });
     }
-    startUp.Run();
+    startUp.Run([] { return true; });
     EXPECT_EQ(run, order);
 }
 
 TEST(StartUpTest, StepsThatNobodyFilledArePassedOver) {
     std::string run;
     StartUp startUp;
-    startUp.Run();
+    startUp.Run([] { return true; });
     startUp.Fill(StartUpStep::SharedDiaries, [&run] { run += "last"; });
     startUp.Fill(StartUpStep::GetPaths, [&run] { run += "first "; });
-    startUp.Run();
+    startUp.Run([] { return true; });
     EXPECT_EQ(run, "first last");
 }
 

@@ -16,6 +16,8 @@ constexpr double kFontOfHeight = 0.40; // of the cell, for the number
 constexpr double kFontOfWidth = 0.36;
 constexpr int kSmallestFont = 12; // pixels
 constexpr int kLargestFont = 40;
+constexpr QSize kRoomForMessage{84, 56};
+constexpr double kMessageFont = 0.55; // of the number's
 
 } // namespace
 
@@ -57,21 +59,39 @@ void DateLabel::paintEvent(QPaintEvent* /*event*/) {
         painter.setPen(QPen(look::Accent(palette()), 2));
         painter.setBrush(Qt::NoBrush);
         const double corner = 6;
-        const QRectF frame = QRectF(rect()).adjusted(3, 2, -3, -2);
+        QRectF frame = QRectF(rect()).adjusted(3, 2, -3, -2);
+        frame.setHeight(std::min(frame.height(), fontSize * 3.2));
+        frame.moveCenter(centre);
         painter.drawRoundedRect(frame, corner, corner);
     }
     QFont number = font();
     number.setPixelSize(fontSize);
-    number.setBold(look_.Today || look_.Marked);
+    number.setBold(look_.Today || !look_.Mark.isEmpty());
     painter.setFont(number);
     painter.setPen(look_.Text);
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (look_.Marked) {
+    if (!look_.Mark.isEmpty()) {
+        PaintMark(painter, fontSize);
+    }
+}
+
+void DateLabel::PaintMark(QPainter& painter, int fontSize) const {
+    const QPointF centre = QRectF(rect()).center();
+    if (width() < kRoomForMessage.width() || height() < kRoomForMessage.height()) {
         const double dot = std::max(2.0, fontSize / 9.0);
         painter.setPen(Qt::NoPen);
         painter.setBrush(look_.Text);
         painter.drawEllipse(QPointF(centre.x(), centre.y() + fontSize * 0.72), dot, dot);
+        return;
     }
+    QFont message = font();
+    message.setPixelSize(std::max(kSmallestFont, static_cast<int>(fontSize * kMessageFont)));
+    painter.setFont(message);
+    const QFontMetrics metrics(message);
+    const QRect line(4, static_cast<int>(centre.y() + fontSize * 1.05), width() - 8,
+                     metrics.height());
+    painter.drawText(line, Qt::AlignCenter,
+                     metrics.elidedText(look_.Mark, Qt::ElideRight, line.width()));
 }
 
 void DateLabel::enterEvent(QEnterEvent* event) {

@@ -8,14 +8,15 @@
 namespace kestrova {
 
 // One date of the month grid: its number in the colour of its role, a dot under it when the day has
-// an event, a ring when it is today, a frame when the keyboard stands on it.
+// an event (or, where there is room, the event's message), a ring when it is today, a frame when the
+// keyboard stands on it.
 class DateLabel : public QLabel {
 public:
     explicit DateLabel(QWidget* parent);
 
     struct Look {
         QColor Text;
-        bool Marked = false;
+        QString Mark; // the message that marks the day; empty when none does
         bool Today = false;
         bool Selected = false;
     };
@@ -32,6 +33,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    void PaintMark(QPainter& painter, int fontSize) const;
+
     Look look_;
 };
 

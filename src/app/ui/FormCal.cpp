@@ -83,9 +83,9 @@ void FormCal::MarkDates() {
         const bool today = dates.ShowsToday() && day == dates.TodayDay;
         const ColourRole role =
             today ? ColourRole::Today : (mark ? ColourRole::Event : ColourRole::Text);
-        label->SetLook({colour(role), mark.has_value(), today, day == dates.PageDay});
         // A message is the user's own text: shown as it is, never as markup.
         const QString tip = ToQt(mark.value_or(std::string()));
+        label->SetLook({colour(role), tip, today, day == dates.PageDay});
         label->setToolTip(tip.isEmpty() ? tip : QStringLiteral("<span>%1</span>").arg(
                                                     tip.toHtmlEscaped()));
         label->setAccessibleName(ToQt(DayHeading(
@@ -192,11 +192,6 @@ void FormCal::resizeEvent(QResizeEvent* event) {
 
 void FormCal::closeEvent(QCloseEvent* event) {
     rooms_.Media.CleanUp();
-    if (qApp->isSavingSession()) {
-        event->accept();
-        hooks_.Quit();
-        return;
-    }
     if (rooms_.Settings.ReminderOnClose != 0) {
         event->ignore();
         hide();

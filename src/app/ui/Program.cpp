@@ -22,7 +22,7 @@ Program::Program(std::string dataFolder, InstanceLink& link)
       settings_(FirstSettings(texts_)), languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
       diaryFiles_(files_, clock_),
-      store_(diaryFiles_, dialogs_, texts_, [] { QApplication::quit(); }),
+      store_(diaryFiles_, dialogs_, texts_, [this] { End(); }),
       yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
       editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
       review_({store_, dates_, texts_, settings_, speech_, phone_, mail_, media_, loop_, beeper_}),
@@ -39,7 +39,7 @@ Program::Program(std::string dataFolder, InstanceLink& link)
                     QTimer::singleShot(0, &formCal_, [this] { tick_.DoTimer(); });
                 },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
-                [] { QApplication::quit(); }}),
+                [this] { End(); }}),
       diary_(&formCal_, {dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
              [this] { formCal_.Redraw(FormCal::kSameMonth); }),
       screenReminder_(texts_, [this] { tick_.ClearReminders(); }) {
@@ -50,10 +50,21 @@ Program::Program(std::string dataFolder, InstanceLink& link)
 
 Program::~Program() { Timer1.stop(); }
 
-void Program::Run() {
-    startUp_.Run();
+int Program::Run() {
+    startUp_.Run([this] { return !ended_; });
+    if (ended_) {
+        return 0;
+    }
     formCal_.show();
     link_.OnPoke([this](std::string_view text) { RunCheck_Change(text); });
+    return ended_ ? 0 : QApplication::exec();
+}
+
+// Leaving the event loop asks no window whether it wants to close, as quitting would. Loops that
+// wait for an answer to a message are left with it, also those before the main one has begun.
+void Program::End() {
+    ended_ = true;
+    QApplication::exit(0);
 }
 
 void Program::FillStartUp() {
@@ -188,9 +199,9 @@ void Program::OpenDiary(int day) {
 }
 
 void Program::RunCheck_Change(std::string_view text) {
-    const bool changed = runCheck_ != text;
+    // Each poke is an event of its own here, also one that comes before a tick has emptied the item.
     runCheck_ = text;
-    if (changed && text == kInstancePoke) {
+    if (text == kInstancePoke) {
         formCal_.ShowNormal();
     }
 }

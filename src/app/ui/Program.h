@@ -35,8 +35,13 @@ public:
     Program(std::string dataFolder, InstanceLink& link);
     ~Program() override;
 
-    // Starts up and shows the main window.
-    void Run();
+    // Starts up, shows the main window and handles events until the program ends. Returns the exit
+    // code.
+    int Run();
+
+    // Ends the program in order, whatever windows and questions are open: nothing asks, nothing is
+    // saved that was not accepted.
+    void End();
 
 private:
     void FillStartUp();
@@ -74,6 +79,7 @@ private:
     bool AskMailAddress(ReminderExtra& extra) override;
     void Preview(const std::string& path) override { media_.MakeSound(path); }
 
+    bool ended_ = false;
     std::string dataFolder_; // DataFolder
 
     PosixFileStore files_;

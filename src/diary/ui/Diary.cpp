@@ -11,7 +11,8 @@
 
 #include <QKeyEvent>
 #include <QScreen>
-#include <QStyle>
+
+#include <algorithm>
 
 namespace kestrova {
 
@@ -39,7 +40,9 @@ void Fill(QComboBox& list, const std::vector<std::string>& items) {
 void Diary::Open() {
     row_ = 0;
     DrawMainPage();
-    move(screen()->availableGeometry().topLeft());
+    const QRect area = screen()->availableGeometry();
+    resize(std::min(width(), area.width()), height());
+    move(area.topLeft());
     show();
     raise();
     activateWindow();

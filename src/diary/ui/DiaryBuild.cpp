@@ -40,8 +40,8 @@ protected:
         QPainter painter(this);
         const QColor stripe = palette().color(QPalette::AlternateBase);
         const QColor base = palette().color(QPalette::Base);
-        const int left = Pixels(kTimeLeft) / 2;
-        const int right = width() - left;
+        const int left = Pixels(kTimeLeft);
+        const int right = width() - left / 2;
         for (int row = 1; row <= kEventsPerDay; ++row) {
             const QRect area(left, Pixels(kRowsTop + row * kRowHeight), right - left,
                              Pixels(kRowHeight));
@@ -227,7 +227,7 @@ void Diary::PlaceControls() {
             place(LabEvent[i], kEventLeft, top, width - 4500);
             place(ChkHide[i], width - 600, top, 400);
             LabNum[i - 1]->setGeometry(0, Pixels((row - 1) * kRowHeight + 1140),
-                                       Pixels(kTimeLeft) - 2, height);
+                                       Pixels(kTimeLeft) - 4, height);
         }
     }
     LabEvent[0]->setGeometry(Pixels(kEventLeft), Pixels(kAddTop), Pixels(width - 4500),
