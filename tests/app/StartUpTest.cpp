@@ -44,5 +44,19 @@ TEST(StartUpTest, StepsThatNobodyFilledArePassedOver) {
     EXPECT_EQ(run, "first last");
 }
 
+TEST(StartUpTest, NoStepFollowsOnceTheProgramHasEnded) {
+    StartUp startUp;
+    std::vector<int> ran;
+    bool ended = false;
+    startUp.Fill(StartUpStep::Going, [&] { ran.push_back(1); });
+    startUp.Fill(StartUpStep::GetData, [&] {
+        ran.push_back(2);
+        ended = true;
+    });
+    startUp.Fill(StartUpStep::Today, [&] { ran.push_back(3); });
+    startUp.Run([&] { return !ended; });
+    EXPECT_EQ(ran, (std::vector<int>{1, 2}));
+}
+
 } // namespace
 } // namespace kestrova
