@@ -2,6 +2,7 @@
 #include "app/ui/DataFolder.h"
 #include "app/ui/Program.h"
 #include "platform/qt/QtInstanceLink.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/SignalWatch.h"
 
 #include <QApplication>
@@ -17,7 +18,9 @@ int main(int argc, char** argv) {
     if (link.Join() == kestrova::InstanceRole::Newcomer) {
         return 0;
     }
-    kestrova::Program program(kestrova::FindDataFolder(), link);
+    // The whole command line is one path, blanks and all.
+    const QString mediaFile = QApplication::arguments().mid(1).join(QLatin1Char(' '));
+    kestrova::Program program(kestrova::FindDataFolder(), kestrova::FromQt(mediaFile), link);
     const kestrova::SignalWatch signals([&program] { program.End(); });
     // The desktop says when the session ends, too.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,

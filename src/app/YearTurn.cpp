@@ -4,6 +4,8 @@
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
 
+#include <algorithm>
+
 namespace kestrova {
 
 namespace {
@@ -14,47 +16,57 @@ constexpr int kLongestGap = 100;
 
 } // namespace
 
-void YearTurn::SetBaseYear(int clockYear) {
-    const int dataYear = rooms_.Settings.DataYear;
-    rooms_.Dates.BaseYear = clockYear;
-    if (clockYear < dataYear) {
+void YearTurn::YearUpdate() {
+    const int baseYear = rooms_.Dates.BaseYear;
+    const int rolledTo = rooms_.Store.RolledTo(rooms_.DataFolder).value_or(0);
+    const int dataYear = std::max<int>(rooms_.Settings.DataYear, rolledTo);
+    if (dataYear > baseYear) {
+        SettleWithClockBehind(dataYear, baseYear);
+    } else if (dataYear == baseYear || baseYear - dataYear > kLongestGap) {
+        Settle(baseYear);
+    } else if (!BringForward(dataYear, baseYear, SaveMessages::Show)) {
         rooms_.Dates.BaseYear = dataYear;
-        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
-                           TextOf(ProgramText::ClockBehind, std::to_string(clockYear)),
-                           DialogIcon::Critical});
     }
 }
 
-void YearTurn::YearUpdate() {
-    const int baseYear = rooms_.Dates.BaseYear;
-    // A roll-over that was under way has its year in the diary's folder, if not yet in the settings.
-    const int dataYear = rooms_.Store.RolledTo().value_or(rooms_.Settings.DataYear);
-    if (dataYear < baseYear && baseYear - dataYear <= kLongestGap) {
-        BringForward(dataYear, baseYear);
-    } else if (rooms_.Store.RolledTo() || rooms_.Settings.DataYear != baseYear) {
-        Settle(baseYear);
+void YearTurn::SettleWithClockBehind(int dataYear, int clockYear) {
+    const bool byTheClock =
+        rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kMessengerTitle),
+                          TextOf(ProgramText::ClockBehind, std::to_string(clockYear)),
+                          DialogIcon::Question},
+                         {std::string(TextOf(ProgramText::GoByTheClock)),
+                          std::string(TextOf(ProgramText::KeepTheYear))});
+    if (byTheClock &&
+        rooms_.Store.SetYear(rooms_.DataFolder, clockYear) == ChangeResult::Saved) {
+        Settle(clockYear);
+    } else {
+        rooms_.Dates.BaseYear = dataYear;
     }
 }
 
 void YearTurn::Turn(int year) {
     const int from = rooms_.Dates.BaseYear;
-    rooms_.Dates.BaseYear = year;
-    BringForward(from, year);
-}
-
-void YearTurn::BringForward(int from, int to) {
-    const ChangeResult result = rooms_.Store.BringForward(rooms_.DataFolder, from, to);
-    if (result == ChangeResult::Saved) {
-        Settle(to);
+    if (year - from <= kLongestGap && BringForward(from, year, SaveMessages::Keep)) {
+        rooms_.Dates.BaseYear = year;
     }
 }
 
-// The mark of the roll-over goes only when the settings have the year: a crash before that is found
-// at the next start.
+bool YearTurn::BringForward(int from, int to, SaveMessages messages) {
+    const ChangeResult result =
+        rooms_.Store.BringForward(rooms_.DataFolder, from, to, messages);
+    if (result != ChangeResult::Saved) {
+        return false;
+    }
+    Settle(to);
+    return true;
+}
+
+// The settings follow the diary. A save that fails has been told, and is made up for at the next
+// start.
 void YearTurn::Settle(int year) {
-    rooms_.Settings.DataYear = static_cast<std::int16_t>(year);
-    if (rooms_.SettingsFile.SaveSettings(rooms_.Settings)) {
-        rooms_.Store.FinishRollOver(rooms_.DataFolder);
+    if (rooms_.Settings.DataYear != year) {
+        rooms_.Settings.DataYear = static_cast<std::int16_t>(year);
+        (void)rooms_.SettingsFile.SaveSettings(rooms_.Settings);
     }
 }
 

@@ -11,7 +11,8 @@
 namespace kestrova {
 
 // Keeps the diary's year in step with the clock's: rolls the diary over exactly once for each new
-// year, at start-up or while the program runs, whatever crashes in between.
+// year, at start-up or while the program runs, whatever crashes in between, and
+// however many programs use the diary.
 class YearTurn {
 public:
     struct Rooms {
@@ -26,20 +27,24 @@ public:
 
     explicit YearTurn(const Rooms& rooms) : rooms_(rooms) {}
 
-    // Sets the base year for a clock that shows this year. A clock that is behind the diary is
-    // wrong: the user is told, and the diary keeps its year.
-    void SetBaseYear(int clockYear);
+    // The base year is that of the clock.
+    void SetBaseYear(int clockYear) { rooms_.Dates.BaseYear = clockYear; }
 
     // At start-up, after the diary has been loaded: brings it forward from the year that the
-    // settings hold when that lies behind, and finishes a roll-over that a crash has cut short.
+    // settings hold when that lies behind. The year of the last roll-over stands beside the diary
+    // too, so one that a crash has parted from the settings is not done again. A diary that cannot
+    // be brought forward now keeps its year. So does one that is ahead of the clock, unless the user
+    // says that the clock is right.
     void YearUpdate();
 
-    // The clock has reached another year while the program runs.
+    // The clock has reached another year while the program runs. Tried in silence: while the diary
+    // cannot be saved, the base year stays what it is, and the next pass tries again.
     void Turn(int year);
 
 private:
-    void BringForward(int from, int to);
+    [[nodiscard]] bool BringForward(int from, int to, SaveMessages messages);
     void Settle(int year);
+    void SettleWithClockBehind(int dataYear, int clockYear);
 
     Rooms rooms_;
 };

@@ -4,6 +4,8 @@
 #include "diary/Digest.h"
 #include "diary/NoteName.h"
 #include "platform/KeepAside.h"
+#include "text/Lines.h"
+#include "text/Numbers.h"
 
 namespace kestrova {
 
@@ -16,6 +18,8 @@ constexpr std::string_view kMoreLinesMark = "with more lines";
 
 std::string JournalPath(const std::string& folder) { return NoteFolder(folder) + "Saving.tmp"; }
 
+std::string YearPath(const std::string& folder) { return NoteFolder(folder) + "Year.dat"; }
+
 } // namespace
 
 std::string NoteFolder(const std::string& diaryFolder) { return diaryFolder + "DiaryDat/"; }
@@ -24,25 +28,24 @@ std::string DiaryPath(const std::string& diaryFolder) {
     return NoteFolder(diaryFolder) + "Data.dat";
 }
 
-Result<OpenDiary> DiaryFiles::Open(const std::string& folder, LockKind kind) {
+Result<std::unique_ptr<FileLock>> DiaryFiles::Open(const std::string& folder, LockKind kind) {
     // Completing a save means writing, so a reader who finds one to complete asks for more.
     const bool unfinished = files_.Stamp(JournalPath(folder)).has_value();
     if (unfinished && kind == LockKind::Shared) {
         auto exclusive = files_.Lock(DiaryPath(folder), LockKind::Exclusive, kLockWait);
-        if (exclusive) {
-            return OpenDiary{std::move(exclusive.Value()), CompleteSave(folder)};
+        if (exclusive && CompleteSave(folder)) {
+            return exclusive;
         }
     }
     auto lock = files_.Lock(DiaryPath(folder), kind, kLockWait);
-    if (!lock) {
-        return lock.Failure();
-    }
-    OpenDiary opened{std::move(lock.Value()), std::nullopt};
-    if (kind == LockKind::Exclusive) {
+    if (lock && kind == LockKind::Exclusive) {
         files_.RemoveLeftovers(NoteFolder(folder));
-        opened.RolledTo = CompleteSave(folder);
+        const Status completed = CompleteSave(folder);
+        if (!completed) {
+            return completed.Failure();
+        }
     }
-    return opened;
+    return lock;
 }
 
 Result<LoadedDiary> DiaryFiles::Read(const std::string& folder) {
@@ -74,9 +77,9 @@ Result<SaveJournal> DiaryFiles::Plan(const std::string& folder, const NotePlan& 
             if (!text) {
                 return text.Failure();
             }
-            if (!from->Copied || !text.Value().empty()) {
-                journal.Notes[name] = std::move(text.Value());
-            }
+            const bool worthAFile = !from->Copied || !text.Value().empty();
+            journal.Notes[name] =
+                worthAFile ? std::optional(std::move(text.Value())) : std::nullopt;
         } else {
             journal.Notes[name] = std::nullopt;
         }
@@ -84,14 +87,20 @@ Result<SaveJournal> DiaryFiles::Plan(const std::string& folder, const NotePlan& 
     return journal;
 }
 
-bool DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journal) {
-    bool done = true;
+Status DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journal) {
     for (const auto& [name, text] : journal.Notes) {
         const std::string path = NoteFolder(folder) + name;
         const Status status = text ? files_.Replace(path, *text) : files_.Remove(path);
-        done = done && status.Ok();
+        if (!status) {
+            return status;
+        }
     }
-    return done;
+    if (journal.RolledTo) {
+        std::string year;
+        AppendNumber(year, *journal.RolledTo);
+        return files_.Replace(YearPath(folder), year.append(kLineEnd));
+    }
+    return Done{};
 }
 
 Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, const NotePlan& notes,
@@ -117,35 +126,41 @@ Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, con
         // away when the folder is next opened.
         return saved;
     }
-    // Notes that cannot be written now are written when the folder is next opened: the journal
+    // What cannot be carried out now is carried out when the folder is next opened: the journal
     // stays for that.
-    if (CarryOut(folder, journal.Value()) && !rolledTo) {
-        return files_.Remove(JournalPath(folder));
+    if (CarryOut(folder, journal.Value())) {
+        (void)files_.Remove(JournalPath(folder));
     }
     return Done{};
 }
 
-std::optional<int> DiaryFiles::CompleteSave(const std::string& folder) {
+Status DiaryFiles::CompleteSave(const std::string& folder) {
     const auto bytes = files_.Read(JournalPath(folder), kJournalLimit);
     if (!bytes) {
-        return std::nullopt;
+        const bool none = bytes.Failure().Code == ErrorCode::NotFound;
+        return none ? Status(Done{}) : Status(bytes.Failure());
     }
-    const auto journal = ReadJournal(bytes.Value());
-    const auto diary = files_.Read(DiaryPath(folder), kDiaryFileLimit);
-    if (journal && diary && journal->BelongsTo(diary.Value())) {
-        if (!CarryOut(folder, *journal) || journal->RolledTo) {
-            return journal->RolledTo;
+    if (const auto journal = ReadJournal(bytes.Value())) {
+        const auto diary = files_.Read(DiaryPath(folder), kDiaryFileLimit);
+        if (!diary && diary.Failure().Code != ErrorCode::NotFound) {
+            return diary.Failure();
         }
-    } else if (journal && !diary && diary.Failure().Code == ErrorCode::Busy) {
-        return std::nullopt;
+        if (diary && journal->BelongsTo(diary.Value())) {
+            const Status done = CarryOut(folder, *journal);
+            if (!done) {
+                return done;
+            }
+        }
     }
-    // What cannot be removed is found again next time, and judged the same.
-    (void)files_.Remove(JournalPath(folder));
-    return std::nullopt;
+    return files_.Remove(JournalPath(folder));
 }
 
-Status DiaryFiles::FinishRollOver(const std::string& folder) {
-    return files_.Remove(JournalPath(folder));
+std::optional<int> DiaryFiles::RolledTo(const std::string& folder) const {
+    constexpr std::size_t kYearLimit = 100; // bytes
+    const auto bytes = files_.Read(YearPath(folder), kYearLimit);
+    const auto line = bytes ? LineReader(bytes.Value()).Next() : std::nullopt;
+    const auto year = line ? ReadInt16(*line) : std::nullopt;
+    return year ? std::optional<int>(*year) : std::nullopt;
 }
 
 std::set<std::string> DiaryFiles::NoteNames(const std::string& folder) const {
@@ -160,6 +175,11 @@ std::set<std::string> DiaryFiles::NoteNames(const std::string& folder) const {
 
 Result<std::string> DiaryFiles::ReadNote(const std::string& folder, const std::string& name) const {
     return files_.Read(NoteFolder(folder) + name, kNoteLimit);
+}
+
+Status DiaryFiles::WriteAside(const std::string& folder, std::string_view mark,
+                              const DiaryTable& table) {
+    return WriteNewAside(files_, clock_.Now(), DiaryPath(folder), mark, WriteDiary(table));
 }
 
 Status DiaryFiles::MoveAside(const std::string& folder, std::string_view mark) {

@@ -14,15 +14,10 @@
 
 namespace kestrova {
 
-// The folder under a diary folder that holds the diary file and the notes, and the diary file.
+// The folder under a diary folder that holds the diary file and the notes, and the diary file. Notes
+// belong to their diary, so that looking at a friend's can never rename or delete one's own.
 [[nodiscard]] std::string NoteFolder(const std::string& diaryFolder);
 [[nodiscard]] std::string DiaryPath(const std::string& diaryFolder);
-
-// A diary folder that is locked, with every save in it complete.
-struct OpenDiary {
-    std::unique_ptr<FileLock> Lock;
-    std::optional<int> RolledTo; // a roll-over to this year that FinishRollOver has not closed yet
-};
 
 struct LoadedDiary {
     DiaryTable Table;
@@ -36,20 +31,24 @@ public:
     DiaryFiles(FileStore& files, const Clock& clock) : files_(files), clock_(clock) {}
 
     // Locks the folder and completes a save that a crash has cut short. Busy when someone else
-    // holds it for longer than a moment, or it cannot be written (Exclusive).
-    Result<OpenDiary> Open(const std::string& folder, LockKind kind);
+    // holds it for longer than a moment, or it cannot be written (Exclusive). Failed (Exclusive) when
+    // such a save cannot be completed now: writing on would lose its notes.
+    Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind);
 
     // NotFound, Busy, TooLarge, Damaged or Failed. Lines that no record uses are no damage, but the
     // file is kept aside before the next save could drop them.
     Result<LoadedDiary> Read(const std::string& folder);
 
     // Writes the diary and carries out what has become of its notes; a crash at any moment leaves
-    // either none of it or all of it, once the folder is next opened. `rolledTo` marks a roll-over.
+    // either none of it or all of it, once the folder is next opened. `rolledTo` is the base year
+    // after a roll-over.
     Status Write(const std::string& folder, const DiaryTable& table, const NotePlan& notes,
-                 std::optional<int> rolledTo);
+                 std::optional<int> rolledTo = std::nullopt);
 
-    // Closes a roll-over, once the settings have its year too.
-    Status FinishRollOver(const std::string& folder);
+    // The base year to which the diary was last rolled over; nothing when it never was. It stands in
+    // "Year.dat" beside the diary, so that of several programs that use one diary over New Year
+    // only one rolls it over.
+    [[nodiscard]] std::optional<int> RolledTo(const std::string& folder) const;
 
     [[nodiscard]] std::optional<FileStamp> Stamp(const std::string& folder) const {
         return files_.Stamp(DiaryPath(folder));
@@ -61,14 +60,17 @@ public:
     // The text of a note; NotFound when it has none.
     Result<std::string> ReadNote(const std::string& folder, const std::string& name) const;
 
+    // Writes a table beside the diary file, as it would be kept aside.
+    Status WriteAside(const std::string& folder, std::string_view mark, const DiaryTable& table);
+
     // Keeps the diary file beside itself, by moving it or by copying it.
     Status MoveAside(const std::string& folder, std::string_view mark);
     Status CopyAside(const std::string& folder, std::string_view mark);
 
 private:
     Result<SaveJournal> Plan(const std::string& folder, const NotePlan& notes) const;
-    bool CarryOut(const std::string& folder, const SaveJournal& journal);
-    std::optional<int> CompleteSave(const std::string& folder);
+    Status CarryOut(const std::string& folder, const SaveJournal& journal);
+    Status CompleteSave(const std::string& folder);
 
     FileStore& files_;
     const Clock& clock_;

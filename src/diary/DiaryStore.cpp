@@ -7,9 +7,13 @@
 #include "language/Texts.h"
 #include "platform/KeepAside.h"
 
+#include <algorithm>
+
 namespace kestrova {
 
 namespace {
+
+constexpr std::string_view kMemoryMark = "before damage";
 
 // Damage, unlike the rest, means that the file has been looked at and is no diary.
 bool IsDamage(ErrorCode code) {
@@ -29,84 +33,126 @@ Status DiaryStore::TryRead(const std::string& folder) {
     }
     table_ = std::move(loaded.Value().Table);
     stamp_ = loaded.Value().Stamp;
-    rolledTo_ = opened.Value().RolledTo;
     return Done{};
 }
 
 void DiaryStore::GetData(const std::string& folder) {
-    folder_ = folder;
     suspect_.reset();
     const Status read = TryRead(folder);
     if (read) {
+        folder_ = folder;
         return;
     }
     if (read.Failure().Code == ErrorCode::Busy) {
+        // The diary that was shown stays; at start-up there was none.
+        if (folder_.empty()) {
+            folder_ = folder;
+        }
         dialogs_.Show({texts_.Text(texts::kProgramTitle),
                        std::string(TextOf(ProgramText::DiaryBusy)), DialogIcon::Critical});
         return;
     }
-    Reformat(folder, read.Failure());
+    folder_ = folder;
+    Reformat(folder);
 }
 
-void DiaryStore::Reformat(const std::string& folder, const Error& error) {
+void DiaryStore::Reformat(const std::string& folder) {
     dialogs_.Show({texts_.Text(texts::kMessengerTitle),
                    texts_.Text(texts::kDiaryCorrupt) + "\n" +
                        texts_.Text(texts::kFilesReformatted),
                    DialogIcon::Critical});
-    (void)Persist(BusyMessage::Show, [&]() -> Status {
-        const auto opened = files_.Open(folder, LockKind::Exclusive);
-        if (!opened) {
-            return opened.Failure();
-        }
-        if (error.Code != ErrorCode::NotFound && files_.Stamp(folder)) {
-            const Status kept = files_.MoveAside(folder, kDamagedMark);
-            if (!kept) {
-                return kept;
-            }
-        }
-        const DiaryTable empty;
-        const Status written = files_.Write(folder, empty, NotePlan(), std::nullopt);
-        if (written) {
-            table_ = empty;
-            stamp_ = files_.Stamp(folder);
-        }
-        return written;
-    });
+    (void)Persist(SaveMessages::Show, [&] { return TryReformat(folder); });
 }
 
-// Tells the user about a save that has failed; `again` says whether to try once more.
-ChangeResult DiaryStore::Report(const Error& error, BusyMessage busy, bool& again) {
-    again = false;
-    if (error.Code == ErrorCode::Busy) {
-        if (busy == BusyMessage::Show) {
-            dialogs_.Show({texts_.Text(texts::kProgramTitle),
-                           std::string(TextOf(ProgramText::DiaryBusy)), DialogIcon::Critical});
-        }
-        return ChangeResult::NotSaved;
+Status DiaryStore::TryReformat(const std::string& folder) {
+    const auto opened = files_.Open(folder, LockKind::Exclusive);
+    if (!opened) {
+        return opened.Failure();
     }
-    again = dialogs_.Ask(
+    // While the user read the message, someone may have put a whole diary there.
+    auto loaded = files_.Read(folder);
+    if (loaded) {
+        table_ = std::move(loaded.Value().Table);
+        stamp_ = loaded.Value().Stamp;
+        return Done{};
+    }
+    if (files_.Stamp(folder)) {
+        const Status kept = files_.MoveAside(folder, kDamagedMark);
+        if (!kept) {
+            return kept;
+        }
+    }
+    // The notes stay: they belong to the file that was kept aside, should it be mended.
+    return Write(folder, DiaryTable(), NotePlan(), std::nullopt);
+}
+
+// Tells the user about a save that has failed; whether they want to try once more.
+bool DiaryStore::AsksToTryAgain(const Error& error) {
+    if (error.Code == ErrorCode::Busy) {
+        dialogs_.Show({texts_.Text(texts::kProgramTitle),
+                       std::string(TextOf(ProgramText::DiaryBusy)), DialogIcon::Critical});
+        return false;
+    }
+    const bool again = dialogs_.Ask(
         {texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical},
         {std::string(TextOf(ProgramText::Retry)), std::string(TextOf(ProgramText::CloseProgram))});
     if (!again) {
         stop_();
     }
-    return ChangeResult::NotSaved;
+    return again;
 }
 
 // Every attempt opens the folder anew, so no lock is held while the user reads a message.
-ChangeResult DiaryStore::Persist(BusyMessage busy, const std::function<Status()>& attempt) {
-    bool again = true;
-    while (again) {
+ChangeResult DiaryStore::Persist(SaveMessages messages, const std::function<Status()>& attempt) {
+    for (;;) {
         const Status status = attempt();
         if (status) {
             return ChangeResult::Saved;
         }
-        const ChangeResult result = Report(status.Failure(), busy, again);
-        if (!again) {
-            return result;
+        if (messages == SaveMessages::Keep || !AsksToTryAgain(status.Failure())) {
+            return ChangeResult::NotSaved;
         }
     }
-    return ChangeResult::NotSaved;
+}
+
+// The table to work on: memory where it is what the file holds, else the file. A file that has gone,
+// or is damaged and stays so, gives way to memory, the best there is then.
+Result<DiaryTable> DiaryStore::Latest(const std::string& folder) {
+    const auto now = files_.Stamp(folder);
+    if (folder == folder_ && now == stamp_) {
+        return table_;
+    }
+    auto loaded = files_.Read(folder);
+    if (loaded) {
+        return std::move(loaded.Value().Table);
+    }
+    const Error& error = loaded.Failure();
+    if (folder != folder_ || (error.Code != ErrorCode::NotFound && !IsDamage(error.Code))) {
+        return error;
+    }
+    if (IsDamage(error.Code) && suspect_ != now) {
+        suspect_ = now; // someone may be writing it piece by piece
+        return Error{ErrorCode::Busy, error.Text};
+    }
+    return table_;
+}
+
+Status DiaryStore::Write(const std::string& folder, DiaryTable table, const NotePlan& notes,
+                         std::optional<int> rolledTo) {
+    if (files_.Stamp(folder) && suspect_ == files_.Stamp(folder)) {
+        const Status kept = files_.MoveAside(folder, kDamagedMark);
+        if (!kept) {
+            return kept;
+        }
+    }
+    const Status written = files_.Write(folder, table, notes, rolledTo);
+    if (written) {
+        table_ = std::move(table);
+        stamp_ = files_.Stamp(folder);
+        folder_ = folder;
+        suspect_.reset();
+    }
+    return written;
 }
 
 Status DiaryStore::TryChange(const std::string& folder, const Edit& edit, EditVerdict& verdict) {
@@ -114,61 +160,25 @@ Status DiaryStore::TryChange(const std::string& folder, const Edit& edit, EditVe
     if (!opened) {
         return opened.Failure();
     }
-    DiaryTable latest;
-    if (files_.Stamp(folder) == stamp_) {
-        latest = table_;
-    } else {
-        auto loaded = files_.Read(folder);
-        if (loaded) {
-            latest = std::move(loaded.Value().Table);
-        } else if (loaded.Failure().Code == ErrorCode::NotFound ||
-                   IsDamage(loaded.Failure().Code)) {
-            // What we hold in memory is the best there is; what cannot be read is kept.
-            latest = table_;
-            if (files_.Stamp(folder)) {
-                const Status kept = files_.MoveAside(folder, kDamagedMark);
-                if (!kept) {
-                    return kept;
-                }
-            }
-        } else {
-            return loaded.Failure();
-        }
+    auto latest = Latest(folder);
+    if (!latest) {
+        return latest.Failure();
     }
     NotePlan notes(files_.NoteNames(folder));
-    EventList events(latest, notes);
+    EventList events(latest.Value(), notes);
     verdict = edit(events);
     if (verdict == EditVerdict::Leave) {
         return Done{};
     }
-    const Status written = files_.Write(folder, latest, notes, opened.Value().RolledTo);
-    if (written) {
-        table_ = std::move(latest);
-        stamp_ = files_.Stamp(folder);
-    }
-    return written;
+    return Write(folder, std::move(latest.Value()), notes, std::nullopt);
 }
 
-ChangeResult DiaryStore::Change(const Edit& edit, BusyMessage busy) {
+ChangeResult DiaryStore::Change(const Edit& edit, SaveMessages messages) {
     EditVerdict verdict = EditVerdict::Leave;
     const ChangeResult result =
-        Persist(busy, [&] { return TryChange(folder_, edit, verdict); });
+        Persist(messages, [&] { return TryChange(folder_, edit, verdict); });
     const bool left = result == ChangeResult::Saved && verdict == EditVerdict::Leave;
     return left ? ChangeResult::Left : result;
-}
-
-ChangeResult DiaryStore::SaveMsg(const std::string& folder) {
-    return Persist(BusyMessage::Show, [&]() -> Status {
-        const auto opened = files_.Open(folder, LockKind::Exclusive);
-        if (!opened) {
-            return opened.Failure();
-        }
-        const Status written = files_.Write(folder, table_, NotePlan(), opened.Value().RolledTo);
-        if (written && folder == folder_) {
-            stamp_ = files_.Stamp(folder);
-        }
-        return written;
-    });
 }
 
 ChangeResult DiaryStore::DataFormat() {
@@ -197,6 +207,8 @@ DiaryNews DiaryStore::Refresh() {
         suspect_ = now;
         return DiaryNews::Same;
     }
+    // What memory holds is about to give way to an empty diary, so it is kept, too.
+    (void)files_.WriteAside(folder_, kMemoryMark, table_);
     GetData(folder_);
     return DiaryNews::Reloaded;
 }
@@ -206,14 +218,15 @@ Status DiaryStore::TryBringForward(const std::string& folder, int fromYear, int 
     if (!opened) {
         return opened.Failure();
     }
-    auto loaded = files_.Read(folder);
-    if (!loaded) {
-        return loaded.Failure();
+    auto latest = Latest(folder);
+    if (!latest) {
+        return latest.Failure();
     }
-    if (opened.Value().RolledTo == toYear) {
-        // Done by someone else between our look and our lock.
-        table_ = std::move(loaded.Value().Table);
-        stamp_ = loaded.Value().Stamp;
+    const int from = std::max(fromYear, files_.RolledTo(folder).value_or(fromYear));
+    if (from >= toYear) {
+        table_ = std::move(latest.Value());
+        stamp_ = files_.Stamp(folder);
+        folder_ = folder;
         return Done{};
     }
     const Status kept = files_.CopyAside(folder, "before " + std::to_string(toYear));
@@ -221,26 +234,29 @@ Status DiaryStore::TryBringForward(const std::string& folder, int fromYear, int 
         return kept;
     }
     NotePlan notes(files_.NoteNames(folder));
-    EventList events(loaded.Value().Table, notes);
-    kestrova::BringForward(events, texts_, fromYear, toYear);
-    const Status written = files_.Write(folder, loaded.Value().Table, notes, toYear);
-    if (written) {
-        table_ = std::move(loaded.Value().Table);
-        stamp_ = files_.Stamp(folder);
-        folder_ = folder;
-    }
-    return written;
+    EventList events(latest.Value(), notes);
+    kestrova::BringForward(events, texts_, from, toYear);
+    return Write(folder, std::move(latest.Value()), notes, toYear);
 }
 
-ChangeResult DiaryStore::BringForward(const std::string& folder, int fromYear, int toYear) {
-    return Persist(BusyMessage::Show,
-                   [&] { return TryBringForward(folder, fromYear, toYear); });
+ChangeResult DiaryStore::SetYear(const std::string& folder, int year) {
+    return Persist(SaveMessages::Show, [&]() -> Status {
+        const auto opened = files_.Open(folder, LockKind::Exclusive);
+        if (!opened) {
+            return opened.Failure();
+        }
+        auto latest = Latest(folder);
+        if (!latest) {
+            return latest.Failure();
+        }
+        const Status kept = files_.CopyAside(folder, "before " + std::to_string(year));
+        return kept ? Write(folder, std::move(latest.Value()), NotePlan(), year) : kept;
+    });
 }
 
-void DiaryStore::FinishRollOver(const std::string& folder) {
-    // A mark that cannot be removed now is found at the next start, which finishes it.
-    (void)files_.FinishRollOver(folder);
-    rolledTo_.reset();
+ChangeResult DiaryStore::BringForward(const std::string& folder, int fromYear, int toYear,
+                                      SaveMessages messages) {
+    return Persist(messages, [&] { return TryBringForward(folder, fromYear, toYear); });
 }
 
 std::optional<std::string> DiaryStore::Note(const SlotPlace& place) const {

@@ -21,12 +21,12 @@ enum class EditVerdict {
 enum class ChangeResult {
     Saved,
     Left,    // as the edit wanted
-    NotSaved // the user has been told why; neither table nor file has changed
+    NotSaved // neither table nor file has changed; the user has been told why, unless in silence
 };
 
-// Whether a diary that is busy is worth a message: an edit of the user's is, the clock's is not
-// when the user has been told a minute ago.
-enum class BusyMessage { Show, Keep };
+// Whether a save that fails is told to the user. An edit of the user's is; the clock, which saves
+// while nobody may be there, first tries in silence.
+enum class SaveMessages { Show, Keep };
 
 // What the ten-second look at the diary's file has found.
 enum class DiaryNews { Same, Reloaded, FolderGone };
@@ -48,7 +48,7 @@ public:
 
     [[nodiscard]] const DiaryTable& Table() const { return table_; }
 
-    // For marks that are not to reach the file.
+    // For marks that reach the file with a later change, or not at all.
     [[nodiscard]] DiaryTable& Table() { return table_; }
 
     [[nodiscard]] const std::string& Folder() const { return folder_; }
@@ -58,11 +58,8 @@ public:
     // one is put in its place, the damaged file kept beside it.
     void GetData(const std::string& folder);
 
-    // Writes the table as it is to a folder, whatever its file holds.
-    ChangeResult SaveMsg(const std::string& folder);
-
     // Applies an edit to the diary shown and saves it.
-    ChangeResult Change(const Edit& edit, BusyMessage busy = BusyMessage::Show);
+    ChangeResult Change(const Edit& edit, SaveMessages messages = SaveMessages::Show);
 
     // Clears every stored slot and its note, and saves.
     ChangeResult DataFormat();
@@ -71,13 +68,18 @@ public:
     DiaryNews Refresh();
 
     // Brings the diary of a folder forward from one base year to a later one, a copy of the old
-    // file kept beside it, and shows it. The roll-over counts as open until FinishRollOver: a crash
-    // before that leaves it to be found by RolledTo after the next GetData.
-    ChangeResult BringForward(const std::string& folder, int fromYear, int toYear);
-    void FinishRollOver(const std::string& folder);
+    // file kept beside it, and shows it. One that has been brought there already, by another program
+    // or before a crash, is only loaded.
+    ChangeResult BringForward(const std::string& folder, int fromYear, int toYear,
+                              SaveMessages messages);
 
-    // The year of a roll-over that GetData has found open.
-    [[nodiscard]] std::optional<int> RolledTo() const { return rolledTo_; }
+    // Says that a diary belongs to this base year, events and all, a copy of the file kept beside it.
+    ChangeResult SetYear(const std::string& folder, int year);
+
+    // The base year to which the diary of a folder was last rolled over.
+    [[nodiscard]] std::optional<int> RolledTo(const std::string& folder) const {
+        return files_.RolledTo(folder);
+    }
 
     // The text of the note at a place of the diary shown; nothing when it has none.
     [[nodiscard]] std::optional<std::string> Note(const SlotPlace& place) const;
@@ -85,10 +87,14 @@ public:
 private:
     Status TryChange(const std::string& folder, const Edit& edit, EditVerdict& verdict);
     Status TryRead(const std::string& folder);
+    Result<DiaryTable> Latest(const std::string& folder);
+    Status Write(const std::string& folder, DiaryTable table, const NotePlan& notes,
+                 std::optional<int> rolledTo);
     Status TryBringForward(const std::string& folder, int fromYear, int toYear);
-    ChangeResult Report(const Error& error, BusyMessage busy, bool& again);
-    ChangeResult Persist(BusyMessage busy, const std::function<Status()>& attempt);
-    void Reformat(const std::string& folder, const Error& error);
+    [[nodiscard]] bool AsksToTryAgain(const Error& error);
+    ChangeResult Persist(SaveMessages messages, const std::function<Status()>& attempt);
+    void Reformat(const std::string& folder);
+    Status TryReformat(const std::string& folder);
 
     DiaryFiles& files_;
     Dialogs& dialogs_;
@@ -98,7 +104,6 @@ private:
     DiaryTable table_;
     std::string folder_;
     std::optional<FileStamp> stamp_;
-    std::optional<int> rolledTo_;
     std::optional<FileStamp> suspect_; // of a changed file that could not be read at first sight
 };
 

@@ -17,10 +17,6 @@ constexpr int kLastMonthlyDay = 28;
 constexpr CalendarDate kLeapDay{2000, 1, 29};
 constexpr std::size_t kMediaFile = 1; // where Extra holds the path
 
-constexpr const char* kMediaFilter =
-    "Media Files (*.mpg;*.avi;*.mov;*.wav;*.mp2;*.mp3)|*.mpg;*.mpeg;*.avi;*.mov;*.wav;*.mp2;*.mp3";
-constexpr const char* kWaveFilter = "*.wav|*.wav";
-
 std::int16_t TimeNumber(std::string_view text) { return ReadInt16(text).value_or(0); }
 
 } // namespace
@@ -106,10 +102,11 @@ bool EventEditor::RefusesRepeat(const EventDraft& draft) {
 }
 
 bool EventEditor::CollectMediaFile() {
-    const auto path =
-        rooms_.Boxes.OpenFile("", rooms_.Details.VideoWorks() ? kMediaFilter : kWaveFilter);
+    const ProgramText filter =
+        rooms_.Details.VideoWorks() ? ProgramText::MediaFilter : ProgramText::WaveFilter;
+    const auto path = rooms_.Boxes.OpenFile("", std::string(TextOf(filter)));
     if (path) {
-        if (path->ends_with(".wav")) {
+        if (path->ends_with(".wav") || path->ends_with(".WAV")) {
             rooms_.Details.Preview(*path);
         }
         extra_[kMediaFile] = *path;
@@ -119,6 +116,9 @@ bool EventEditor::CollectMediaFile() {
 
 // Whether the reminder can be given; if not, the user has been told.
 bool EventEditor::CollectDetails(ReminderKind kind) {
+    if (!original_ || ReminderKindOf(rooms_.Texts, original_->Rmd) != kind) {
+        extra_ = {}; // a telephone number is no media file
+    }
     switch (kind) {
     case ReminderKind::Speak:
         if (rooms_.Settings.SpeechEnabled == 0) {
@@ -211,7 +211,10 @@ AcceptResult EventEditor::Accept(EventDraft& draft) {
         ShowRefusal({texts::kSaveFailed});
         return AcceptResult::Refused;
     }
-    const std::string msg = AsOneLine(draft.Msg);
+    std::string msg = AsOneLine(draft.Msg);
+    if (Trim(msg).empty()) {
+        msg.clear(); // blanks alone would be an event that nobody can see
+    }
     if (msg.empty() && !original_) {
         return AcceptResult::Accepted;
     }
@@ -264,11 +267,14 @@ AcceptResult EventEditor::Undo() {
     if (removed_.empty()) {
         return AcceptResult::Refused;
     }
+    std::vector<Removed> left;
     const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
         removing_.clear();
+        left.clear();
         for (const Removed& removed : removed_) {
             const auto day = Day(removed.Date);
             if (!day || events.IsFull(*day)) {
+                left.push_back(removed);
                 continue;
             }
             const SlotPlace scratch(kScratchSlot, *day);
@@ -281,7 +287,11 @@ AcceptResult EventEditor::Undo() {
         return EditVerdict::Save;
     });
     if (result == ChangeResult::Saved) {
-        removed_.clear();
+        removed_ = std::move(left);
+        if (!removed_.empty()) {
+            rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                               std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+        }
     }
     return Finish(result);
 }

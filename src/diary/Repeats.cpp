@@ -74,11 +74,14 @@ void RepeatMsg(EventList& events, const StringTable& table, int baseYear,
             return;
         }
         const DayPlace day{date.Day, date.Month, date.Year - baseYear};
-        if (date.Day > NofDays(date.Year, date.Month) || events.IsFull(day)) {
+        if (date.Day > NofDays(date.Year, date.Month)) {
             continue;
         }
         if (HoldsAlready(events.Table(), day, event)) {
             return;
+        }
+        if (events.IsFull(day)) {
+            continue;
         }
         const SlotPlace scratch(kScratchSlot, day);
         events.Table().At(scratch) = event;

@@ -4,6 +4,7 @@
 #include "diary/Digest.h"
 #include "diary/NoteName.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace kestrova {

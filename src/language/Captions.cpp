@@ -23,7 +23,6 @@ constexpr CaptionRow kCaptions[] = {
 };
 
 constexpr CaptionRow kTips[] = {
-    {"FormCal", "Image1", {TextGroup::Tips, 1}},
     {"FormCal", "LabDays(0)", {TextGroup::Tips, 3}},
     {"FormCal", "LabDays(1)", {TextGroup::Tips, 3}},
     {"FormCal", "LabDays(2)", {TextGroup::Tips, 3}},

@@ -20,10 +20,13 @@ bool IsHeading(std::string_view field) { return field.ends_with(kHeadingEnd); }
 
 Error Cut() { return {ErrorCode::Damaged, "language block cut short"}; }
 
-// Reads one text; false at the end of the file.
+// No caption, tip or message is anywhere near as long.
+constexpr std::size_t kLongestText = 2000; // bytes
+
+// Reads one text; false at the end of the file, or when it is none that a window could show.
 bool ReadText(FieldReader& fields, std::string& into) {
     auto field = fields.Next();
-    if (!field) {
+    if (!field || field->size() > kLongestText) {
         return false;
     }
     into = std::move(*field);

@@ -42,18 +42,20 @@ void Languages::GetLanguage(int& languageIndex) {
     Check(languageIndex);
 }
 
-void Languages::ChangeLanguage(int& languageIndex) {
+bool Languages::ChangeLanguage(int& languageIndex) {
     const auto bytes = files_.Read(path_, kLanguageFileLimit);
+    bool loaded = false;
     if (bytes) {
-        LoadLanguage(bytes.Value(), languageIndex);
+        loaded = LoadLanguage(bytes.Value(), languageIndex);
     } else {
         languageIndex = 0;
         table_ = MsgDefaults();
     }
     choices_.Checked = languageIndex < kFixedLanguages ? std::optional(languageIndex) : std::nullopt;
+    return loaded;
 }
 
-void Languages::LoadLanguage(std::string_view bytes, int& languageIndex) {
+bool Languages::LoadLanguage(std::string_view bytes, int& languageIndex) {
     auto loaded = ReadLanguage(bytes, languageIndex);
     if (loaded) {
         table_ = std::move(loaded.Value());
@@ -61,6 +63,7 @@ void Languages::LoadLanguage(std::string_view bytes, int& languageIndex) {
         languageIndex = 0;
         table_ = MsgDefaults();
     }
+    return loaded.Ok();
 }
 
 void Languages::Check(int languageIndex) {

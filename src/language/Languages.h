@@ -40,13 +40,14 @@ public:
     // English; an index without a block leaves the texts as they are.
     void GetLanguage(int& languageIndex);
 
-    // Loads the block of this index after the user has picked it, by the same rules.
-    void ChangeLanguage(int& languageIndex);
+    // Loads the block of this index after the user has picked it, by the same rules. Returns whether
+    // there was such a block.
+    bool ChangeLanguage(int& languageIndex);
 
     [[nodiscard]] const LanguageChoices& Choices() const { return choices_; }
 
 private:
-    void LoadLanguage(std::string_view bytes, int& languageIndex);
+    bool LoadLanguage(std::string_view bytes, int& languageIndex);
     void Check(int languageIndex);
 
     const FileStore& files_;

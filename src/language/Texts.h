@@ -19,7 +19,6 @@ inline constexpr TextId kReminderKinds{TextGroup::Selectors, 30};
 inline constexpr TextId kRepeatKinds{TextGroup::Selectors, 40};
 
 inline constexpr TextId kAddLine{TextGroup::Labels, 0};
-inline constexpr TextId kHelp{TextGroup::Labels, 28};
 
 inline constexpr TextId kNoMonthlyAbove28{TextGroup::Messages, 4};
 inline constexpr TextId kNoAnnualLeapDay{TextGroup::Messages, 5};
@@ -37,6 +36,5 @@ inline constexpr TextId kSettingsCorrupt{TextGroup::Messages, 30};
 inline constexpr TextId kDiaryCorrupt{TextGroup::Messages, 31};
 inline constexpr TextId kFilesReformatted{TextGroup::Messages, 32};
 inline constexpr TextId kOnlyTwoYears{TextGroup::Messages, 33};
-inline constexpr TextId kError{TextGroup::Messages, 37};
 
 } // namespace kestrova::texts

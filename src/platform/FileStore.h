@@ -35,13 +35,14 @@ enum class LockKind {
     Exclusive // while saving: keeps everyone out
 };
 
-// The discs. Paths are native, in UTF-8; folders end in the separator. Every operation answers
-// within about a second or says Busy.
+// The discs. Paths are native, in UTF-8; folders end in the separator. No operation
+// waits for anyone, except Lock.
 class FileStore {
 public:
     virtual ~FileStore() = default;
 
-    // The whole file. NotFound, Busy (not permitted), TooLarge (more than `limit` bytes) or Failed.
+    // The whole file. NotFound, Busy (not permitted), TooLarge (more than `limit` bytes), Damaged (a
+    // folder or a pipe in the file's place) or Failed.
     virtual Result<std::string> Read(const std::string& path, std::size_t limit) const = 0;
 
     // Puts a file with these bytes in the place of the old one, as one step: after a crash at any

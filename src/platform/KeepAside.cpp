@@ -53,4 +53,10 @@ Status CopyAside(FileStore& files, const WallTime& now, const std::string& path,
                      [&](const std::string& name) { return files.CopyToNew(path, name); });
 }
 
+Status WriteNewAside(FileStore& files, const WallTime& now, const std::string& path,
+                     std::string_view mark, std::string_view bytes) {
+    return KeepAside(files, now, path, mark,
+                     [&](const std::string& name) { return files.Replace(name, bytes); });
+}
+
 } // namespace kestrova

@@ -20,4 +20,8 @@ Status MoveAside(FileStore& files, const WallTime& now, const std::string& path,
 Status CopyAside(FileStore& files, const WallTime& now, const std::string& path,
                  std::string_view mark);
 
+// Writes bytes that are about to be lost beside a file, under such a name.
+Status WriteNewAside(FileStore& files, const WallTime& now, const std::string& path,
+                     std::string_view mark, std::string_view bytes);
+
 } // namespace kestrova

@@ -41,7 +41,11 @@ void ClockTick::Timer1_Timer() {
     if (newMinute) {
         minuteLatch_ = false;
     }
-    if (now.Second % kSecondsBetweenLooks == 0) {
+    // Two ticks fall into one second; the second look at a file is to come ten seconds later.
+    if (now.Second % kSecondsBetweenLooks == 0 && lastLook_ != now) {
+        lastLook_ = now;
+        // Loading may show a message, during which no other tick is to do the same.
+        const PassGuard guard(inPass_);
         LookAtFile();
     }
     if (rooms_.Windows.DayPageVisible()) {
@@ -49,8 +53,11 @@ void ClockTick::Timer1_Timer() {
     }
     const bool repeated = now.Second == 0 && minuteLatch_;
     if (IsPassDue(now, newMinute)) {
-        const PassGuard guard(inPass_);
-        Pass(now, repeated);
+        {
+            const PassGuard guard(inPass_);
+            Pass(now, repeated);
+        }
+        TellTrouble();
     }
 }
 
@@ -82,7 +89,6 @@ void ClockTick::LookAtFile() {
     switch (rooms_.Store.Refresh()) {
     case DiaryNews::Same: break;
     case DiaryNews::Reloaded:
-        rooms_.Review.Reapply();
         rooms_.Windows.DiaryReloaded();
         rooms_.Windows.ShowMainWindow();
         break;
@@ -152,9 +158,20 @@ void ClockTick::SaveUsedUp() {
         rooms_.Review.Forget();
         return;
     }
-    const ChangeResult result =
-        rooms_.Review.Save(busyShown_ ? BusyMessage::Keep : BusyMessage::Show);
-    busyShown_ = result == ChangeResult::NotSaved;
+    const ChangeResult result = rooms_.Review.Save(SaveMessages::Keep);
+    if (result != ChangeResult::NotSaved) {
+        trouble_ = Trouble::None;
+    } else if (trouble_ == Trouble::None) {
+        trouble_ = Trouble::New;
+    }
+}
+
+// A save that failed is told once, after the pass: passes go on while the message is open.
+void ClockTick::TellTrouble() {
+    if (trouble_ == Trouble::New) {
+        trouble_ = Trouble::Told;
+        (void)rooms_.Review.Save(SaveMessages::Show);
+    }
 }
 
 void ClockTick::CountDownReturn() {

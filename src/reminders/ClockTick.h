@@ -80,12 +80,16 @@ public:
     void SetReturnCountdown(int minutes) { returnCountdown_ = minutes; }
 
 private:
+    // What the user knows of saves that fail.
+    enum class Trouble { None, New, Told };
+
     void LookAtFile();
     bool IsPassDue(const WallTime& now, bool newMinute);
     void Pass(const WallTime& now, bool repeated);
     void Chime(const WallTime& now);
     void RefreshToday(const WallTime& now);
     void SaveUsedUp();
+    void TellTrouble();
     void CountDownReturn();
 
     Rooms rooms_;
@@ -95,9 +99,10 @@ private:
     bool inPass_ = false;
     bool clearing_ = false; // ClearingReminders
     bool firstDraw_ = false;
-    bool busyShown_ = false;
+    Trouble trouble_ = Trouble::None;
     int returnCountdown_ = 0; // ReturnCountdown
     std::optional<int> lastDay_; // LastDay
+    std::optional<WallTime> lastLook_;   // at the diary's file
     std::optional<WallTime> lastMinute_; // of the last tick, seconds left out
 };
 

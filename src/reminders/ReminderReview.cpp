@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reminders/ReminderReview.h"
 
+#include "language/ProgramTexts.h"
 #include "text/Numbers.h"
 
 #include <algorithm>
@@ -48,6 +49,8 @@ DayPlace ReminderReview::Today() const {
 
 std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
     lines_.clear();
+    // The diary may have been loaded anew before all marks could be written.
+    ApplyMarks(rooms_.Store.Table());
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
     shown_.clear();
     std::vector<DiaryEvent> events;
@@ -95,14 +98,14 @@ void ReminderReview::ApplyMarks(DiaryTable& table) const {
     }
 }
 
-ChangeResult ReminderReview::Save(BusyMessage busy) {
+ChangeResult ReminderReview::Save(SaveMessages messages) {
     const ChangeResult result = rooms_.Store.Change(
         [this](EventList& events) {
             ApplyMarks(events.Table());
             events.ReSortMsg(Today());
             return EditVerdict::Save;
         },
-        busy);
+        messages);
     if (result == ChangeResult::Saved) {
         usedUp_.clear();
     }
@@ -165,8 +168,8 @@ bool ReminderReview::Announce(const DiaryEvent& event) {
     speech.SetStopSpeaking(false);
     speech.Show();
     for (const std::string& text :
-         {std::string("Messenger Reminder Service."), event.Msg, std::string("At."),
-          SpokenTime(event)}) {
+         {std::string(TextOf(ProgramText::ReminderService)), event.Msg,
+          std::string(TextOf(ProgramText::SpokenAt)), SpokenTime(event)}) {
         speech.Speak(text);
     }
     const bool acknowledged =

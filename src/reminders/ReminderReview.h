@@ -61,10 +61,7 @@ public:
 
     // Writes what has been used up to the diary's file, and re-sorts today. What cannot be written
     // now is written with a later call.
-    ChangeResult Save(BusyMessage busy);
-
-    // Marks the events again in a diary that has been loaded anew before all could be written.
-    void Reapply() { ApplyMarks(rooms_.Store.Table()); }
+    ChangeResult Save(SaveMessages messages);
 
     // Forgets what has not been written: the marks belonged to a diary that is no longer shown.
     void Forget() { usedUp_.clear(); }

@@ -18,8 +18,8 @@ enum class ChimeInterval { Never = 0, Hour = 1, HalfHour = 2, QuarterHour = 3, F
 [[nodiscard]] std::optional<ChimeInterval> ChimeIntervalOf(const AppSettings& settings,
                                                            const StringTable& table);
 
-// Whether a modem port is chosen: anything but the list's first entry, "None".
-[[nodiscard]] bool HasModemPort(const AppSettings& settings, const StringTable& table);
+// Whether a modem port is chosen: "Com:1" to "Com:4", in every language.
+[[nodiscard]] bool HasModemPort(const AppSettings& settings);
 
 // Gives every choice the text that the new language has for it. A text that the old language does
 // not know is kept.

@@ -5,6 +5,7 @@
 #include "text/Lines.h"
 #include "text/Numbers.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 

@@ -22,6 +22,9 @@ void SettingsStore::GetSettings(AppSettings& settings) {
     dialogs_.Show({table_.Text(texts::kMessengerTitle), table_.Text(texts::kSettingsCorrupt),
                    DialogIcon::Critical});
     SetDefault(settings);
+    if (!bytes && bytes.Failure().Code == ErrorCode::Busy) {
+        return; // whole, but not ours to read: nothing is put in its place
+    }
     const bool missing = !bytes && bytes.Failure().Code == ErrorCode::NotFound;
     if (!missing) {
         const Status kept = MoveAside(files_, clock_.Now(), path_, kDamagedMark);

@@ -5,6 +5,7 @@
 #include "platform/qt/QtText.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QWidget>
@@ -44,11 +45,11 @@ void ApplyCaptions(QWidget& window, const StringTable& table, TipTexts tips) {
             }
         }
     }
+    QFont font = QApplication::font();
     if (!table.LanguageFont.empty()) {
-        QFont font = window.font();
         font.setFamily(ToQt(table.LanguageFont));
-        window.setFont(font);
     }
+    window.setFont(font);
 }
 
 } // namespace kestrova

@@ -12,7 +12,7 @@ namespace kestrova {
 // A label that is clicked. With a focus policy it answers to Enter and the space bar too.
 class ClickLabel : public QLabel {
 public:
-    using QLabel::QLabel;
+    explicit ClickLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
     std::function<void()> Clicked;
     std::function<void()> DoubleClicked;

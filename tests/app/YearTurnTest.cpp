@@ -108,16 +108,40 @@ TEST(YearTurnTest, TheYearTurnsWhileTheProgramRuns) {
     EXPECT_EQ(Messages(restarted.Store.Table(), kThisYear), "party");
 }
 
-TEST(YearTurnTest, AClockThatIsBehindChangesNothing) {
+TEST(YearTurnTest, ADiaryThatCannotBeSavedKeepsItsYearUntilItCan) {
     DiaryScene scene;
-    WriteSettingsOf(scene, 2026);
-    scene.Insert(kThisYear, MakeEvent(9, 0, "party"));
+    WriteSettingsOf(scene, 2025);
+    scene.Insert(kNextYear, MakeEvent(9, 0, "party"));
+    Started program(scene, 2025);
+    scene.Files.HoldLock(kDataPath);
+    program.Turn.Turn(2026);
+    EXPECT_EQ(program.Dates.BaseYear, 2025);
+    EXPECT_TRUE(scene.Boxes.Shown.empty()) << "nobody may be there at midnight";
+    const Started late(scene, 2026);
+    EXPECT_EQ(late.Dates.BaseYear, 2025) << "also at start-up";
+    scene.Files.ReleaseLock(kDataPath);
+    program.Turn.Turn(2026);
+    EXPECT_EQ(program.Dates.BaseYear, 2026);
+    EXPECT_EQ(Messages(program.Store.Table(), kThisYear), "party");
+}
+
+TEST(YearTurnTest, AClockThatIsBehindChangesNothingUnlessTheUserSaysSo) {
+    DiaryScene scene;
+    WriteSettingsOf(scene, 2025);
+    scene.Insert(kNextYear, MakeEvent(9, 0, "party"));
+    { const Started rolled(scene, 2026); }
     const Started wrong(scene, 2000);
     EXPECT_EQ(wrong.Dates.BaseYear, 2026);
-    EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
-    const Started right(scene, 2026);
-    EXPECT_EQ(Messages(right.Store.Table(), kThisYear), "party");
-    EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+    EXPECT_EQ(scene.Boxes.Asked.size(), 1U);
+    EXPECT_EQ(DataYearOnFile(scene), 2026);
+    scene.Boxes.Answers = {true};
+    const Started told(scene, 2024);
+    EXPECT_EQ(told.Dates.BaseYear, 2024);
+    EXPECT_EQ(Messages(told.Store.Table(), kThisYear), "party");
+    EXPECT_TRUE(scene.FindPathWith("Data before 2024"));
+    const Started again(scene, 2024);
+    EXPECT_EQ(again.Dates.BaseYear, 2024);
+    EXPECT_EQ(scene.Boxes.Asked.size(), 2U) << "it is not asked again";
 }
 
 TEST(YearTurnTest, AYearThatNobodyCanBelieveRollsNothingOver) {

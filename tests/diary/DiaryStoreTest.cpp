@@ -114,6 +114,8 @@ TEST(DiaryStoreTest, SavingOverADamagedFileKeepsBothTheFileAndTheMemory) {
     DiaryScene scene;
     scene.Insert(kDay, MakeEvent(9, 0, "in memory"));
     scene.Files.Put(kDataPath, "someone's accident");
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "new")), ChangeResult::NotSaved)
+        << "someone may be writing it just now";
     EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "new")), ChangeResult::Saved);
     EXPECT_EQ(Messages(scene.OnFile(), kDay), "in memory new");
     const auto aside = scene.FindPathWith("damaged");
@@ -157,6 +159,57 @@ TEST(DiaryStoreTest, AFileThatIsBeingWrittenIsNotTakenForDamaged) {
     EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded) << "it grows no more: it is damaged";
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
     EXPECT_TRUE(scene.FindPathWith("damaged"));
+    const auto memory = scene.FindPathWith("before damage");
+    ASSERT_TRUE(memory);
+    EXPECT_EQ(scene.Files.Content(*memory), whole) << "what memory held is kept as well";
+}
+
+TEST(DiaryStoreTest, ADiaryThatArrivesDuringTheMessageIsNotReplaced) {
+    DiaryScene scene;
+    DiaryTable theirs;
+    theirs.At({1, kDay}) = MakeEvent(9, 0, "arrived");
+    scene.Boxes.WhileOpen = [&] {
+        scene.Files.Put("/late/DiaryDat/Data.dat", WriteDiary(theirs));
+    };
+    scene.Store.GetData("/late/");
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "arrived");
+    EXPECT_EQ(scene.Files.Content("/late/DiaryDat/Data.dat"), WriteDiary(theirs));
+}
+
+TEST(DiaryStoreTest, ASaveThatCannotBeCompletedIsNotWrittenOver) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "a"));
+    scene.Files.Put(scene.NotePath({1, kDay}), "note of a");
+    scene.Files.CrashAfter(2); // the journal and the diary are written, the notes are not
+    const auto insertBefore = [](EventList& events) {
+        events.Table().At({kScratchSlot, kDay}) = MakeEvent(8, 0, "b");
+        events.SortMsg(kDay);
+        return EditVerdict::Save;
+    };
+    EXPECT_EQ(scene.Store.Change(insertBefore), ChangeResult::Saved);
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(7, 0, "c")), ChangeResult::NotSaved);
+    scene.Files.Recover();
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(7, 0, "c")), ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "c b a");
+    EXPECT_EQ(scene.Files.Content(scene.NotePath({3, kDay})), "note of a");
+}
+
+TEST(DiaryStoreTest, AnEmptyNoteThatIsCopiedLeavesNobodyElsesNoteThere) {
+    DiaryScene scene;
+    const DayPlace next{21, 4, 0};
+    scene.Insert(kDay, MakeEvent(8, 0, "weekly", "Weekly"));
+    scene.Insert(next, MakeEvent(10, 0, "other"));
+    scene.Files.Put(scene.NotePath({1, kDay}), "");
+    scene.Files.Put(scene.NotePath({1, next}), "note of other");
+    (void)scene.Store.Change([&](EventList& events) {
+        events.Table().At({kScratchSlot, next}) = events.Table().At({1, kDay});
+        events.Notes().Copy({1, kDay}, {kScratchSlot, next});
+        events.SortMsg(next);
+        return EditVerdict::Save;
+    });
+    EXPECT_EQ(Messages(scene.OnFile(), next), "weekly other");
+    EXPECT_EQ(scene.Files.Content(scene.NotePath({1, next})), std::nullopt);
+    EXPECT_EQ(scene.Files.Content(scene.NotePath({2, next})), "note of other");
 }
 
 TEST(DiaryStoreTest, AFolderThatHasGoneIsNoDamage) {
@@ -204,7 +257,7 @@ template<typename Operation, typename Check> void CrashEverywhere(Operation oper
         DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
         restarted.GetData(kFolder);
         check(scene, restarted);
-        EXPECT_FALSE(scene.Files.Content(kJournalPath) && !restarted.RolledTo());
+        EXPECT_FALSE(scene.Files.Content(kJournalPath));
     }
 }
 
@@ -240,12 +293,12 @@ TEST(DiaryStoreTest, ACrashedRollOverIsFoundOrNeverHappened) {
     CrashEverywhere(
         [](DiaryScene& scene) {
             scene.Insert({14, 4, 1}, MakeEvent(5, 0, "next year"));
-            (void)scene.Store.BringForward(kFolder, 2025, 2026);
+            (void)scene.Store.BringForward(kFolder, 2025, 2026, SaveMessages::Keep);
         },
         [&](DiaryScene& scene, DiaryStore& restarted) {
             const std::string after = Messages(restarted.Table(), kDay);
             const bool rolled = after == "next year" || after.empty();
-            EXPECT_EQ(restarted.RolledTo().has_value(), rolled);
+            EXPECT_EQ(restarted.RolledTo(kFolder).has_value(), rolled);
             oldSeen = oldSeen || !rolled;
             newSeen = newSeen || rolled;
             if (rolled) {
@@ -257,25 +310,26 @@ TEST(DiaryStoreTest, ACrashedRollOverIsFoundOrNeverHappened) {
     EXPECT_TRUE(newSeen);
 }
 
-TEST(DiaryStoreTest, ARollOverStaysKnownThroughAnothersEdits) {
+TEST(DiaryStoreTest, OfSeveralProgramsOneRollsTheDiaryOver) {
     DiaryScene scene;
-    ASSERT_EQ(scene.Store.BringForward(kFolder, 2025, 2026), ChangeResult::Saved);
-    // Before the roll-over is finished, another program edits the same diary, with a note.
+    scene.Insert({14, 4, 1}, MakeEvent(9, 0, "next year"));
     DiaryStore other(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
     other.GetData(kFolder);
+    for (DiaryStore* const store : {&scene.Store, &other, &scene.Store}) {
+        EXPECT_EQ(store->BringForward(kFolder, 2025, 2026, SaveMessages::Keep),
+                  ChangeResult::Saved);
+        EXPECT_EQ(Messages(store->Table(), kDay), "next year");
+    }
     (void)other.Change([](EventList& events) {
-        events.Table().At({kScratchSlot, kDay}) = MakeEvent(9, 0, "theirs");
+        events.Table().At({kScratchSlot, kDay}) = MakeEvent(10, 0, "theirs");
         events.Notes().Put({kScratchSlot, kDay}, "their note");
         events.SortMsg(kDay);
         return EditVerdict::Save;
     });
-    DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
-    restarted.GetData(kFolder);
-    EXPECT_EQ(restarted.RolledTo(), 2026);
-    EXPECT_EQ(scene.Files.Content(scene.NotePath({1, kDay})), "their note");
-    restarted.FinishRollOver(kFolder);
-    restarted.GetData(kFolder);
-    EXPECT_EQ(restarted.RolledTo(), std::nullopt);
+    EXPECT_EQ(scene.Store.RolledTo(kFolder), 2026);
+    EXPECT_EQ(scene.Store.BringForward(kFolder, 2025, 2026, SaveMessages::Keep),
+              ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(), kDay), "next year theirs");
 }
 
 TEST(SaveJournalTest, ComesBackAndRefusesWhatIsNone) {

@@ -80,7 +80,7 @@ TEST(EventEditorTest, NewEventsAreSortedInAndSaved) {
     EXPECT_EQ(page.Add("10", "ten"), AcceptResult::Accepted);
     EXPECT_EQ(page.Add("09", "nine"), AcceptResult::Accepted);
     EXPECT_EQ(page.Day(), "nine ten");
-    EXPECT_EQ(page.OnFile().At({kScratchSlot, kDay}), DiaryEvent{});
+    EXPECT_EQ(page.Store.Table().At({kScratchSlot, kDay}), DiaryEvent{});
     EXPECT_EQ(page.Files.Content(page.NotePath({1, kDay})), "") << "its note, still empty";
 }
 

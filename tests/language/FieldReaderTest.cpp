@@ -35,6 +35,7 @@ TEST(FieldReaderTest, FieldsEndAtCommasAndLineEnds) {
         {"a comma in quotes stays", "\"one, two\"\r\nthree\r\n", {"one, two", "three"}},
         {"blanks in quotes stay", "  \"  January  \"\r\n", {"  January  "}},
         {"two quoted on a line", "\"a,b\",\"c\"\r\nd\r\n", {"a,b", "c", "d"}},
+        {"blanks behind a quote go", "\"one\"  ,two\r\n\"three\" \r\n", {"one", "two", "three"}},
         {"an empty quoted field", "\"\"\r\none\r\n", {"", "one"}},
         {"a quote inside is a character", "5\" disc\r\n", {"5\" disc"}},
         {"an open quote ends with its line", "\"one, two\r\nthree\r\n", {"one, two", "three"}},

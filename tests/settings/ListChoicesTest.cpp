@@ -44,7 +44,7 @@ TEST(ListChoicesTest, TheFirstPortIsNone) {
     for (const auto& [port, has] : {std::pair{"", false}, {"None", false}, {"Com:1", true}}) {
         SCOPED_TRACE(port);
         settings.ModemPort = port;
-        EXPECT_EQ(HasModemPort(settings, MsgDefaults()), has);
+        EXPECT_EQ(HasModemPort(settings), has);
     }
 }
 

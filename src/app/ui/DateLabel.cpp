@@ -23,6 +23,7 @@ constexpr double kMessageFont = 0.55; // of the number's
 
 DateLabel::DateLabel(QWidget* parent) : QLabel(parent) {
     setAlignment(Qt::AlignCenter);
+    setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     setMinimumSize(28, 24);
 }

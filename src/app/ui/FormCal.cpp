@@ -12,6 +12,7 @@
 #include "ui/ApplyCaptions.h"
 #include "ui/Look.h"
 #include "ui/Names.h"
+#include "ui/PlainTip.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -29,7 +30,8 @@ namespace kestrova {
 namespace {
 
 constexpr double kBesideRatio = 1.15;   // a window wider than this has the picture beside the grid
-constexpr double kCardShare = 0.36;     // of the window's width, for the grid beside the picture
+constexpr double kCardShare = 0.40;     // of the window's width, at most, for the grid beside it
+constexpr double kPictureShape = 4.0 / 3.0; // of the pictures that ship
 constexpr int kCardWidth = 340;         // at least
 constexpr int kMinutesUntilReturn = 7;
 
@@ -83,11 +85,9 @@ void FormCal::MarkDates() {
         const bool today = dates.ShowsToday() && day == dates.TodayDay;
         const ColourRole role =
             today ? ColourRole::Today : (mark ? ColourRole::Event : ColourRole::Text);
-        // A message is the user's own text: shown as it is, never as markup.
         const QString tip = ToQt(mark.value_or(std::string()));
         label->SetLook({colour(role), tip, today, day == dates.PageDay});
-        label->setToolTip(tip.isEmpty() ? tip : QStringLiteral("<span>%1</span>").arg(
-                                                    tip.toHtmlEscaped()));
+        label->setToolTip(PlainTip(tip));
         label->setAccessibleName(ToQt(DayHeading(
             rooms_.Texts, {dates.PageYear, dates.PageMonth, day})).simplified());
         label->setAccessibleDescription(tip);
@@ -99,6 +99,7 @@ void FormCal::SetTitle() {
     LabCurMth->setText(
         ToQt(rooms_.Texts.MonthNames[static_cast<std::size_t>(dates.PageMonth)] + "  " +
              std::to_string(dates.PageYear)));
+    card_->setAccessibleName(LabCurMth->text().simplified());
     QPalette colours = card_->palette();
     colours.setColor(QPalette::Window, ToColour(rooms_.Settings.ColourOf(ColourRole::Background)));
     const QColor text = ToColour(rooms_.Settings.ColourOf(ColourRole::Text));
@@ -113,7 +114,11 @@ void FormCal::FitToWindow() {
     const QSize room = centralWidget()->size();
     const bool beside = room.width() > kBesideRatio * room.height();
     layout_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    const int width = std::max(kCardWidth, static_cast<int>(room.width() * kCardShare));
+    // The grid takes what a picture of the usual shape leaves of the width.
+    const int left = room.width() - 3 * look::kMargin -
+                     static_cast<int>((room.height() - 2 * look::kMargin) * kPictureShape);
+    const int width =
+        std::max(kCardWidth, std::min(left, static_cast<int>(room.width() * kCardShare)));
     card_->setMinimumWidth(beside ? width : 0);
     card_->setMaximumWidth(beside ? width : QWIDGETSIZE_MAX);
 
@@ -126,8 +131,11 @@ void FormCal::FitToWindow() {
     LabCurMth->setFont(font);
     QFont small = this->font();
     small.setPointSizeF(std::max(7.0, small.pointSizeF() * std::min(scale, 1.5) * 0.9));
-    const bool full = width / kDaysOfWeek >
-                      QFontMetrics(small).horizontalAdvance(QStringLiteral("Wednesday")) + 8;
+    int widest = 0;
+    for (const std::string& name : rooms_.Texts.WeekdayNames) {
+        widest = std::max(widest, QFontMetrics(small).horizontalAdvance(ToQt(name)));
+    }
+    const bool full = (width - 2 * look::kMargin) / kDaysOfWeek > widest + look::kSpacing;
     for (int column = 0; column < kDaysOfWeek; ++column) {
         ClickLabel* const label = LabDays[static_cast<std::size_t>(column)];
         const QString name = ToQt(rooms_.Texts.DayName(column, rooms_.Settings.Week));
@@ -235,6 +243,7 @@ void FormCal::keyPressEvent(QKeyEvent* event) {
 
 void FormCal::AfterMove(bool otherMonth) {
     if (otherMonth) {
+        hooks_.SetReturnCountdown(0); // the user is looking for something
         GetPicture();
         Redraw(kSameMonth);
     } else {
@@ -263,6 +272,7 @@ void FormCal::LabCurMth_DblClick() {
                               rooms_.Dates.BaseYear);
     if (year) {
         ShowYear(rooms_.Dates, *year);
+        hooks_.SetReturnCountdown(0);
         GetPicture();
         Redraw(rooms_.Dates.TodayMonth);
     }

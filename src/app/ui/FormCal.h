@@ -88,6 +88,7 @@ protected:
 
 private:
     void BuildCard();
+    void BuildGrid();
     void BuildMenus();
     void BuildFileMenu();
     void BuildMonthMenu();

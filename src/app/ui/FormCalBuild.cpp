@@ -3,6 +3,7 @@
 #include "app/ui/FormCal.h"
 
 #include "app/Navigation.h"
+#include "calendar/MonthSheet.h"
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
 #include "platform/qt/QtText.h"
@@ -22,7 +23,7 @@ namespace kestrova {
 
 namespace {
 
-constexpr QSize kFirstSize{1080, 640};
+constexpr QSize kFirstSize{1200, 664};
 constexpr QSize kSmallestSize{640, 480};
 
 QString ToQt(ProgramText text) { return kestrova::ToQt(TextOf(text)); }
@@ -93,7 +94,7 @@ FormCal::FormCal(const Rooms& rooms, Hooks hooks) : rooms_(rooms), hooks_(std::m
     BuildCard();
     setCentralWidget(centre);
     BuildMenus();
-    LoadCaptions();
+    centre->setCursor(Qt::CrossCursor);
     card_->setFocus();
 }
 
@@ -119,6 +120,19 @@ void FormCal::BuildCard() {
     title->addWidget(LabYrAdv);
     column->addLayout(title);
 
+    BuildGrid();
+    column->addLayout(grid_, 1);
+
+    LabHelp = new ClickLabel(card_);
+    LabHelp->setObjectName(QStringLiteral("LabHelp"));
+    LabHelp->setCursor(Qt::PointingHandCursor);
+    LabHelp->setFocusPolicy(Qt::TabFocus);
+    LabHelp->Clicked = [this] { LabHelp_Click(); };
+    column->addWidget(LabHelp, 0, Qt::AlignRight);
+}
+
+// The day names over six rows of dates.
+void FormCal::BuildGrid() {
     grid_ = new QGridLayout;
     grid_->setSpacing(2);
     for (int i = 0; i < kDaysOfWeek; ++i) {
@@ -130,7 +144,7 @@ void FormCal::BuildCard() {
         grid_->addWidget(label, 0, i);
         grid_->setColumnStretch(i, 1);
     }
-    for (int row = 1; row <= 6; ++row) {
+    for (int row = 1; row <= kSheetRows; ++row) {
         grid_->setRowStretch(row, 1);
         grid_->setRowMinimumHeight(row, 24);
     }
@@ -143,14 +157,6 @@ void FormCal::BuildCard() {
         label->hide();
         LabDates[static_cast<std::size_t>(i)] = label;
     }
-    column->addLayout(grid_, 1);
-
-    LabHelp = new ClickLabel(card_);
-    LabHelp->setObjectName(QStringLiteral("LabHelp"));
-    LabHelp->setCursor(Qt::PointingHandCursor);
-    LabHelp->setFocusPolicy(Qt::TabFocus);
-    LabHelp->Clicked = [this] { LabHelp_Click(); };
-    column->addWidget(LabHelp, 0, Qt::AlignRight);
 }
 
 QAction* FormCal::AddAction(QMenu* menu, const QString& name, std::function<void()> handler) {
@@ -255,6 +261,7 @@ void FormCal::LoadCaptions() {
     for (const Entry& entry : kEntries) {
         findChild<QAction*>(QLatin1String(entry.Name))->setText(ToQt(entry.Text));
     }
+    Image1->setAccessibleName(ToQt(ProgramText::PictureOfMonth));
     LabYrRtd->setAccessibleName(ToQt(ProgramText::PreviousYear));
     LabYrRtd->setToolTip(ToQt(ProgramText::PreviousYear));
     LabYrAdv->setAccessibleName(ToQt(ProgramText::NextYear));

@@ -17,8 +17,8 @@ constexpr int kTickMilliseconds = 500;
 
 } // namespace
 
-Program::Program(std::string dataFolder, InstanceLink& link)
-    : dataFolder_(std::move(dataFolder)), link_(link), texts_(MsgDefaults()),
+Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& link)
+    : dataFolder_(std::move(dataFolder)), mediaFile_(std::move(mediaFile)), link_(link), texts_(MsgDefaults()),
       settings_(FirstSettings(texts_)), languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
       diaryFiles_(files_, clock_),
@@ -33,11 +33,7 @@ Program::Program(std::string dataFolder, InstanceLink& link)
                {[this](int day) { OpenDiary(day); },
                 [this] { (void)settingsStore_.SaveSettings(settings_); },
                 [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
-                [this] {
-                    tick_.SetFirstDraw(false);
-                    // The window is to be seen before a delivery makes the pass wait.
-                    QTimer::singleShot(0, &formCal_, [this] { tick_.DoTimer(); });
-                },
+                [this] { FirstDrawn(); },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
                 [this] { End(); }}),
       diary_(&formCal_, {dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
@@ -148,7 +144,7 @@ void Program::GetPaths() {
 void Program::ModemCheck() {
     // The probe waits for the modem's answers; no tick is to come in between.
     Timer1.stop();
-    if (HasModemPort(settings_, texts_) && !phone_.ModemPresent()) {
+    if (HasModemPort(settings_) && !phone_.ModemPresent()) {
         settings_.ModemPort = texts_.Text(texts::kModemPorts);
     }
     Timer1.start();
@@ -174,16 +170,29 @@ void Program::ReloadLanguage() {
 
 void Program::ChangeLanguage(int index) {
     const StringTable before = texts_;
-    languages_.ChangeLanguage(index);
+    const bool loaded = languages_.ChangeLanguage(index);
     settings_.LanguageIndex = static_cast<std::int16_t>(index);
     TranslateChoices(settings_, before, texts_);
-    if (!texts_.LanguageFont.empty()) {
+    if (loaded && !texts_.LanguageFont.empty()) {
         for (PrintStyle& style : settings_.PrintStyles) {
             style.FontName = texts_.LanguageFont;
         }
     }
     LoadCaptions();
     (void)settingsStore_.SaveSettings(settings_);
+}
+
+void Program::FirstDrawn() {
+    tick_.SetFirstDraw(false);
+    // The window is to be seen before a delivery makes the pass wait.
+    QTimer::singleShot(0, &formCal_, [this] {
+        tick_.DoTimer();
+        if (!mediaFile_.empty()) {
+            settings_.VideoFullScreen = 0;
+            settings_.VideoRepeat = 1;
+            media_.PlayReminder(mediaFile_);
+        }
+    });
 }
 
 void Program::OpenDiary(int day) {

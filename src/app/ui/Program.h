@@ -31,8 +31,9 @@ namespace kestrova {
 // program has one of is a member here.
 class Program : private ClockWindows, private ReminderDetails {
 public:
-    // `dataFolder` is the program folder, ending in the separator.
-    Program(std::string dataFolder, InstanceLink& link);
+    // `dataFolder` is the program folder, ending in the separator; `mediaFile` is played when the
+    // window is first shown, unless it is empty.
+    Program(std::string dataFolder, std::string mediaFile, InstanceLink& link);
     ~Program() override;
 
     // Starts up, shows the main window and handles events until the program ends. Returns the exit
@@ -53,6 +54,7 @@ private:
     void LoadCaptions();
     void ModemCheck();
     void ReadTodayFromClock();
+    void FirstDrawn();
     void OpenDiary(int day);
     void ChangeLanguage(int index);
     void ReloadLanguage();
@@ -81,6 +83,7 @@ private:
 
     bool ended_ = false;
     std::string dataFolder_; // DataFolder
+    std::string mediaFile_;
 
     PosixFileStore files_;
     SystemClock clock_;

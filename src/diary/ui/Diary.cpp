@@ -8,9 +8,13 @@
 #include "platform/qt/QtText.h"
 #include "text/Numbers.h"
 #include "ui/ApplyCaptions.h"
+#include "ui/Look.h"
+#include "ui/PlainTip.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -33,6 +37,8 @@ void Fill(QComboBox& list, const std::vector<std::string>& items) {
         list.addItem(ToQt(item));
     }
     list.setCurrentIndex(0);
+    // The list may be wider than the box: a repeat must be read to be chosen.
+    list.view()->setMinimumWidth(list.view()->sizeHintForColumn(0) + 2 * look::kSpacing);
 }
 
 } // namespace
@@ -82,7 +88,9 @@ void Diary::ShowRow(int row, const QString& time, const QString& message, const 
     LabEvent[i]->setText(message);
     LabRpt[i]->setText(repeat);
     LabRmd[i]->setText(reminder);
-    LabEvent[i]->setToolTip(message);
+    LabEvent[i]->setToolTip(PlainTip(message));
+    LabRpt[i]->setToolTip(PlainTip(repeat));
+    LabRmd[i]->setToolTip(PlainTip(reminder));
     LabEvent[i]->setAccessibleName(
         QStringLiteral("%1 %2 %3 %4").arg(time, message, repeat, reminder).simplified());
 }
@@ -114,6 +122,7 @@ void Diary::DrawMainPage() {
                                                                            : Qt::TabFocus);
     }
     LabEvent[0]->setText(ToQt(rooms_.Texts.Text(texts::kAddLine)));
+    LabEvent[0]->setFocusPolicy(Qt::TabFocus);
     for (ClickLabel* const label : LabEvent) {
         label->show();
     }
@@ -122,7 +131,10 @@ void Diary::DrawMainPage() {
 
 void Diary::LabEvent_DblClick(int index) {
     if (IsEditing()) {
-        return;
+        if (IsDraftChanged()) {
+            return; // Enter and Escape say what is to become of it
+        }
+        DrawMainPage();
     }
     const AcceptResult begun =
         index == 0 ? rooms_.Editor.BeginNew() : rooms_.Editor.BeginEdit(index);
@@ -134,6 +146,9 @@ void Diary::LabEvent_DblClick(int index) {
     FillDraft();
     PlaceEditor();
     LabEvent[static_cast<std::size_t>(index)]->hide();
+    for (ClickLabel* const label : LabEvent) {
+        label->setFocusPolicy(Qt::NoFocus); // the tab key stays in the editor
+    }
     ComDataAcpt->setEnabled(true);
     TextMsg->setFocus();
     TextMsg->end(false);
@@ -183,6 +198,12 @@ void Diary::ComDataAcpt_Click() {
     if (!IsEditing()) {
         return;
     }
+    if (*editSlot_ > 0 && !IsDraftChanged()) {
+        // A repeat or reminder that the lists do not offer stays what it is.
+        DrawMainPage();
+        MarkRow(row_);
+        return;
+    }
     EventDraft draft = Draft();
     const AcceptResult result = rooms_.Editor.Accept(draft);
     Select(*CombRmd, draft.Rmd);
@@ -191,8 +212,21 @@ void Diary::ComDataAcpt_Click() {
         return;
     }
     DrawMainPage();
-    MarkRow(row_);
+    MarkEvent(draft);
     changed_();
+}
+
+// Stands on the row to which the event has gone.
+void Diary::MarkEvent(const EventDraft& draft) {
+    int row = 0;
+    for (int i = kEventsPerDay; i >= 1; --i) {
+        const auto index = static_cast<std::size_t>(i);
+        if (LabTime[index]->text() == ToQt(draft.Hour + ":" + draft.Minute) &&
+            LabEvent[index]->text() == ToQt(draft.Msg)) {
+            row = i;
+        }
+    }
+    MarkRow(row);
 }
 
 void Diary::TextTime_Change(QLineEdit& box, QString& accepted, int limit) {
@@ -231,20 +265,20 @@ void Diary::MNU_Undo_Click() {
     }
 }
 
-// Escape, the window's close button and the menu's Exit come here. What has been typed is not
-// thrown away without asking, except by Escape, which is there to do that.
+// The window's close button, the menu's Exit and an Escape outside the editor come here. What has
+// been typed is not thrown away: it is saved, or the editor stays.
 void Diary::reject() {
     if (IsEditing() && IsDraftChanged()) {
         const bool save = rooms_.Boxes.Ask(
             {rooms_.Texts.Text(texts::kDiaryTitle), std::string(TextOf(ProgramText::SaveEdit)),
              DialogIcon::Question},
             {std::string(TextOf(ProgramText::KeepEdit)),
-             std::string(TextOf(ProgramText::DropEdit))});
+             std::string(TextOf(ProgramText::GoOnEditing))});
         if (save) {
             ComDataAcpt_Click();
-            if (IsEditing()) {
-                return;
-            }
+        }
+        if (IsEditing()) {
+            return;
         }
     }
     DrawMainPage();
@@ -281,6 +315,10 @@ bool Diary::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusOut && (watched == TextTme || watched == TextTmm)) {
         auto* const box = qobject_cast<QLineEdit*>(watched);
         box->setText(ToQt(PadTime(FromQt(box->text()))));
+    }
+    if (event->type() == QEvent::FocusIn && (watched == TextTme || watched == TextTmm)) {
+        // After the click that brought the focus, which would take the selection away.
+        QTimer::singleShot(0, watched, [watched] { qobject_cast<QLineEdit*>(watched)->selectAll(); });
     }
     if (event->type() == QEvent::FocusIn) {
         for (int row = 0; row <= kEventsPerDay; ++row) {

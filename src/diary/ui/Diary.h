@@ -6,6 +6,7 @@
 #include "diary/EventEditor.h"
 #include "platform/Clock.h"
 #include "ui/ClickLabel.h"
+#include "ui/ElidedLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -66,6 +67,7 @@ private:
     void FillLists();
     void FillDraft();
     void MarkRow(int row);
+    void MarkEvent(const EventDraft& draft);
     void MoveRow(int step);
     [[nodiscard]] EventDraft Draft() const;
     [[nodiscard]] bool IsDraftChanged() const;
@@ -94,8 +96,8 @@ private:
     QLabel* LabHide = nullptr;
     std::array<QLabel*, kEventsPerDay + 1> LabTime{};
     std::array<ClickLabel*, kEventsPerDay + 1> LabEvent{};
-    std::array<QLabel*, kEventsPerDay + 1> LabRpt{};
-    std::array<QLabel*, kEventsPerDay + 1> LabRmd{};
+    std::array<ElidedLabel*, kEventsPerDay + 1> LabRpt{};
+    std::array<ElidedLabel*, kEventsPerDay + 1> LabRmd{};
     std::array<QCheckBox*, kEventsPerDay + 1> ChkHide{};
     std::array<QLabel*, kEventsPerDay> LabNum{};
     QLineEdit* TextTme = nullptr;

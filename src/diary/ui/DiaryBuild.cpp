@@ -62,14 +62,14 @@ public:
     using ClickLabel::ClickLabel;
 
 protected:
-    void paintEvent(QPaintEvent* event) override {
+    void paintEvent(QPaintEvent* /*event*/) override {
         if (hasFocus() || (underMouse() && focusPolicy() != Qt::NoFocus)) {
             QPainter painter(this);
             const QColor accent = look::Accent(palette());
             painter.fillRect(rect(), look::Faded(accent, hasFocus() ? 0.25 : 0.12));
             painter.fillRect(0, 0, 3, height(), accent);
         }
-        ClickLabel::paintEvent(event);
+        PaintElided(*this);
     }
 };
 
@@ -110,8 +110,10 @@ void Diary::BuildRows() {
         const auto index = static_cast<std::size_t>(i);
         LabTime[index] = label(ArrayName("LabTime", i));
         LabTime[index]->setIndent(8);
-        LabRpt[index] = label(ArrayName("LabRpt", i));
-        LabRmd[index] = label(ArrayName("LabRmd", i));
+        LabRpt[index] = new ElidedLabel(page_);
+        LabRpt[index]->setObjectName(ArrayName("LabRpt", i));
+        LabRmd[index] = new ElidedLabel(page_);
+        LabRmd[index]->setObjectName(ArrayName("LabRmd", i));
         auto* const row = new RowLabel(page_);
         row->setObjectName(ArrayName("LabEvent", i));
         row->setTextFormat(Qt::PlainText);
@@ -134,7 +136,8 @@ void Diary::BuildRows() {
     QFont bold = font();
     bold.setBold(true);
     for (QLabel* const heading :
-         {LabMsg, LabHide, LabTime[0], LabRpt[0], LabRmd[0], static_cast<QLabel*>(LabEvent[0])}) {
+         {LabMsg, LabHide, LabTime[0], static_cast<QLabel*>(LabRpt[0]),
+          static_cast<QLabel*>(LabRmd[0]), static_cast<QLabel*>(LabEvent[0])}) {
         heading->setFont(bold);
     }
     LabEvent[0]->setFocusPolicy(Qt::TabFocus);

@@ -5,6 +5,7 @@
 #include "platform/qt/QtText.h"
 #include "ui/ApplyCaptions.h"
 #include "ui/Names.h"
+#include "ui/PlainTip.h"
 #include "ui/Twips.h"
 
 #include <QApplication>
@@ -57,13 +58,13 @@ void ScreenReminder::ShowLines(const std::vector<std::string>& lines) {
     for (std::size_t i = 1; i <= kEventsPerDay; ++i) {
         const QString text = i <= lines.size() ? ToQt(lines[i - 1]) : QString();
         LabRemind[i]->setText(text);
-        LabRemind[i]->setToolTip(text);
+        LabRemind[i]->setToolTip(PlainTip(text));
     }
     lines_ = static_cast<int>(std::min<std::size_t>(lines.size(), kEventsPerDay)) + 1;
-    Redraw();
     setEnabled(true);
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
+    Redraw();
     raise();
     QApplication::alert(this);
 }
@@ -106,12 +107,13 @@ void ScreenReminder::keyPressEvent(QKeyEvent* event) {
 }
 
 void ScreenReminder::ComClear_Click() {
-    clear_();
     hide();
     setEnabled(false);
     for (QLabel* const label : LabRemind) {
         label->clear();
     }
+    // Last, for what has fallen due in this very minute comes up anew.
+    clear_();
 }
 
 } // namespace kestrova

@@ -21,7 +21,7 @@ namespace kestrova {
 // without taking the keyboard from whatever the user is doing.
 class ScreenReminder : public QWidget {
 public:
-    // `clear` is called when the user clears the list, before the window goes.
+    // `clear` is called when the user clears the list, when the window has gone.
     ScreenReminder(const StringTable& texts, std::function<void()> clear);
 
     // Shows these lines, at most ten.

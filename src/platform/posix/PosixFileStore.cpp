@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
@@ -82,6 +83,17 @@ FileDescriptor OpenTemporary(const std::string& path, const std::string& like,
         ::fchmod(file.Get(), exists ? old.st_mode & 07777U : kFileMode & ~mask);
     }
     return file;
+}
+
+// What a path leads to: a file that the user has put elsewhere by a link stays there.
+std::string Resolve(const std::string& path) {
+    struct stat info {};
+    if (::lstat(path.c_str(), &info) != 0 || !S_ISLNK(info.st_mode)) {
+        return path;
+    }
+    const std::unique_ptr<char, decltype(&std::free)> target(::realpath(path.c_str(), nullptr),
+                                                             &std::free);
+    return target ? std::string(target.get()) : path;
 }
 
 class PosixLock : public FileLock {
@@ -167,7 +179,8 @@ Result<std::string> PosixFileStore::Read(const std::string& path, std::size_t li
     return bytes;
 }
 
-Status PosixFileStore::Replace(const std::string& path, std::string_view bytes) {
+Status PosixFileStore::Replace(const std::string& link, std::string_view bytes) {
+    const std::string path = Resolve(link);
     std::string temporary;
     FileDescriptor file = OpenTemporary(path, path, temporary);
     if (!file) {
@@ -201,7 +214,9 @@ Status PosixFileStore::CopyToNew(const std::string& from, const std::string& to)
         return error;
     }
     const Status moved = RenameNoReplace(temporary, to);
-    if (!moved) {
+    if (moved) {
+        SyncFolderOf(to);
+    } else {
         ::unlink(temporary.c_str());
     }
     return moved;
@@ -272,11 +287,13 @@ Result<std::unique_ptr<FileLock>> PosixFileStore::Lock(const std::string& path, 
     const std::string lockPath = path + ".lock";
     FileDescriptor file(
         ::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, kFileMode));
-    if (!file && kind == LockKind::Exclusive) {
-        return SystemError(path);
-    }
     if (!file) {
+        // A companion that another user made can be locked all the same.
+        const Error error = SystemError(path);
         file = FileDescriptor(::open(lockPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+        if (!file && kind == LockKind::Exclusive) {
+            return error;
+        }
     }
     const auto end = std::chrono::steady_clock::now() + limit;
     const int how = (kind == LockKind::Shared ? LOCK_SH : LOCK_EX) | LOCK_NB;

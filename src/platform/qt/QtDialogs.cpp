@@ -30,6 +30,10 @@ void Fill(QMessageBox& box, const Message& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(message.Text));
     box.setIcon(IconOf(message.Icon));
+    // Over a program that is hidden, or behind others, a box would wait where nobody sees it.
+    if (box.parentWidget() == nullptr) {
+        box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
 }
 
 // "Caption|*.a;*.b" as the toolkit wants it: "Caption (*.a *.b)".

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/QtEventLoop.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
 
@@ -30,8 +29,6 @@ bool QtEventLoop::WaitUntil(const std::function<bool()>& predicate,
     });
     ask.start(kAskEvery);
     QTimer::singleShot(limit, &loop, &QEventLoop::quit);
-    // A program that is ending waits for nobody.
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &loop, &QEventLoop::quit);
     loop.exec();
     return holds || predicate();
 }

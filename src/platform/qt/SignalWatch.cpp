@@ -40,7 +40,11 @@ SignalWatch::SignalWatch(std::function<void()> onEnd) {
     action.sa_handler = OnSignal;
     action.sa_flags = SA_RESTART;
     for (const int number : kSignals) {
-        ::sigaction(number, &action, nullptr);
+        struct sigaction before {};
+        ::sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) { // nohup, say, has its reasons
+            ::sigaction(number, &action, nullptr);
+        }
     }
 }
 

@@ -49,6 +49,7 @@ struct MonthScene : DiaryScene {
                     [this](int minutes) { Countdown = minutes; }, [this] { ++Quits; }}};
 
     void Show() {
+        Window.LoadCaptions();
         Window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
     }

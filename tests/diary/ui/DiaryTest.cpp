@@ -151,7 +151,8 @@ TEST(DiaryWindowTest, ClosingAsksBeforeTypedTextIsLost) {
         page.Boxes.Answers = {save};
         page.Window.close();
         EXPECT_EQ(page.Boxes.Asked.size(), 1U);
-        EXPECT_FALSE(page.Window.isVisible());
+        EXPECT_NE(page.Window.isVisible(), save) << "what was typed stays, saved or in its editor";
+        EXPECT_EQ(page.Window.IsEditing(), !save);
         EXPECT_EQ(Messages(page.OnFile(), kDay), save ? "typed" : "");
     }
     PageScene untouched;
@@ -223,6 +224,40 @@ TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
     EXPECT_EQ(page.Text("LabEvent(1)"), "");
 }
 
+TEST(DiaryWindowTest, AClickElsewhereGoesThereUnlessSomethingWasTyped) {
+    PageScene page;
+    page.Add("10", "ten");
+    page.Add("11", "eleven");
+    page.Click("LabEvent(1)");
+    page.Click("LabEvent(2)");
+    EXPECT_EQ(page.Find<QLineEdit>("TextMsg")->text(), QStringLiteral("eleven"));
+    QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("!"));
+    page.Click("LabEvent(1)");
+    EXPECT_EQ(page.Find<QLineEdit>("TextMsg")->text(), QStringLiteral("eleven!"));
+}
+
+TEST(DiaryWindowTest, EnterAcceptsFromEveryControlOfTheRow) {
+    for (const char* const name : {"TextTme", "TextTmm", "CombRpt", "CombRmd", "ChkHide(0)"}) {
+        SCOPED_TRACE(name);
+        PageScene page;
+        page.Click("LabEvent(0)");
+        QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("x"));
+        QTest::keyClick(page.Find<QWidget>(name), Qt::Key_Return);
+        EXPECT_EQ(Messages(page.OnFile(), kDay), "x");
+        page.Click("LabEvent(1)");
+        QTest::keyClick(page.Find<QWidget>(name), Qt::Key_Escape);
+        EXPECT_FALSE(page.Window.IsEditing());
+        EXPECT_TRUE(page.Window.isVisible());
+    }
+}
+
+TEST(DiaryWindowTest, UserTextsAreNeverMarkup) {
+    PageScene page;
+    page.Add("10", "<b>bold</b>");
+    EXPECT_EQ(page.Find<QLabel>("LabEvent(1)")->textFormat(), Qt::PlainText);
+    EXPECT_TRUE(page.Find<QLabel>("LabEvent(1)")->toolTip().contains(QStringLiteral("&lt;b&gt;")));
+}
+
 TEST(DiaryWindowTest, ARefusalKeepsWhatWasTyped) {
     PageScene page;
     page.Click("LabEvent(0)");
@@ -245,6 +280,8 @@ TEST(DiaryWindowTest, AnEventSavedInAnotherLanguageOpensWithTheFirstItems) {
     page.Click("LabEvent(1)");
     EXPECT_EQ(page.Find<QComboBox>("CombRpt")->currentText(), QStringLiteral("Never"));
     EXPECT_EQ(page.Find<QComboBox>("CombRmd")->currentText(), QStringLiteral("Screen"));
+    QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Return);
+    EXPECT_EQ(page.OnFile().At({1, kDay}).Rpt, "Täglich") << "nothing was changed";
 }
 
 TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
