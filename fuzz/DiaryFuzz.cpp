@@ -29,9 +29,9 @@ struct EmptyDiary {
     }
 };
 
-// A whole diary is too long for a fuzzer to find, so the input is laid over some records of an empty
-// one, near the front or near the end: its first two bytes say where, the rest stands in the place
-// of as many lines.
+// A whole diary is too long for a fuzzer to find, so the input is laid over some records of an
+// empty one, near the front or near the end: its first two bytes say where, the rest stands in the
+// place of as many lines.
 std::string LaidOver(const EmptyDiary& empty, std::string_view input) {
     const std::size_t records = empty.LineStarts.size() / kLinesPerRecord;
     const std::size_t distance = static_cast<unsigned char>(input[0]);

@@ -33,7 +33,9 @@ bool StepMonth(Selection& dates, int months) {
     return MoveTo(dates, StepMonths(dates.Page(), months));
 }
 
-bool StepDay(Selection& dates, int days) { return MoveTo(dates, StepDays(dates.Page(), days)); }
+bool StepDay(Selection& dates, int days) {
+    return MoveTo(dates, StepDays(dates.Page(), days));
+}
 
 bool ShowMonth(Selection& dates, int month) {
     return MoveTo(dates, CalendarDate{dates.PageYear, month, dates.PageDay});

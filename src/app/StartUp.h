@@ -9,34 +9,34 @@ namespace kestrova {
 // The steps of starting up, in the order in which they run. Later steps lean on earlier ones, so
 // the order is part of what the program does.
 enum class StartUpStep {
-    Going,              // the single-instance item says "Going", the timer runs
-    GetPaths,           // the program folder and its sub-folders
-    FirstLanguage,      // the language list stands on its first entry
-    MsgDefaults,        // the built-in English texts
-    ReadSettings,       // GetSettings, mode 1
-    GetLanguage,        // the chosen language over the English
-    FileCleanUp,        // pages left behind by the speech set-up
-    CurrentMonthName,   // for daily pictures
-    CheckCharacter,     // the installed characters
-    SpeechIdentifiers,  // the tables by language
-    LoadCaptions,       // texts into the windows
-    AgentIni,           // the speech agent
-    ApplySettings,      // GetSettings, mode 2
-    GetShortCut,        // the start-up shortcut
-    ModemCheck,         // with the timer paused
-    BaseYear,           // today's year
-    OrdinalNames,       // for monthly repeats
-    PictureTables,      // pictures and texts of the months
-    SettingsBars,       // the scroll bars of the settings window
-    GetData,            // the diary
-    YearUpdate,         // brought forward to a new year when needed
-    PastRemindersOff,   // of days before today
-    SaveDiary,          // when that has changed anything
-    Today,              // today's date, and the month on show
-    PictureSoundsCd,    // GetPicture, SoundIni, MusicIni
-    Character,          // the speaking character, when speech is switched on
-    TitleToTop,         // month title and year arrows
-    SharedDiaries,      // DoNetUsers
+    Going,             // the single-instance item says "Going", the timer runs
+    GetPaths,          // the program folder and its sub-folders
+    FirstLanguage,     // the language list stands on its first entry
+    MsgDefaults,       // the built-in English texts
+    ReadSettings,      // GetSettings, mode 1
+    GetLanguage,       // the chosen language over the English
+    FileCleanUp,       // pages left behind by the speech set-up
+    CurrentMonthName,  // for daily pictures
+    CheckCharacter,    // the installed characters
+    SpeechIdentifiers, // the tables by language
+    LoadCaptions,      // texts into the windows
+    AgentIni,          // the speech agent
+    ApplySettings,     // GetSettings, mode 2
+    GetShortCut,       // the start-up shortcut
+    ModemCheck,        // with the timer paused
+    BaseYear,          // today's year
+    OrdinalNames,      // for monthly repeats
+    PictureTables,     // pictures and texts of the months
+    SettingsBars,      // the scroll bars of the settings window
+    GetData,           // the diary
+    YearUpdate,        // brought forward to a new year when needed
+    PastRemindersOff,  // of days before today
+    SaveDiary,         // when that has changed anything
+    Today,             // today's date, and the month on show
+    PictureSoundsCd,   // GetPicture, SoundIni, MusicIni
+    Character,         // the speaking character, when speech is switched on
+    TitleToTop,        // month title and year arrows
+    SharedDiaries,     // DoNetUsers
     Count
 };
 inline constexpr std::size_t kStartUpSteps = static_cast<std::size_t>(StartUpStep::Count);

@@ -30,14 +30,12 @@ void YearTurn::YearUpdate() {
 }
 
 void YearTurn::SettleWithClockBehind(int dataYear, int clockYear) {
-    const bool byTheClock =
-        rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kMessengerTitle),
-                          TextOf(ProgramText::ClockBehind, std::to_string(clockYear)),
-                          DialogIcon::Question},
-                         {std::string(TextOf(ProgramText::GoByTheClock)),
-                          std::string(TextOf(ProgramText::KeepTheYear))});
-    if (byTheClock &&
-        rooms_.Store.SetYear(rooms_.DataFolder, clockYear) == ChangeResult::Saved) {
+    const bool byTheClock = rooms_.Boxes.Ask(
+        {rooms_.Texts.Text(texts::kMessengerTitle),
+         TextOf(ProgramText::ClockBehind, std::to_string(clockYear)), DialogIcon::Question},
+        {std::string(TextOf(ProgramText::GoByTheClock)),
+         std::string(TextOf(ProgramText::KeepTheYear))});
+    if (byTheClock && rooms_.Store.SetYear(rooms_.DataFolder, clockYear) == ChangeResult::Saved) {
         Settle(clockYear);
     } else {
         rooms_.Dates.BaseYear = dataYear;
@@ -52,8 +50,7 @@ void YearTurn::Turn(int year) {
 }
 
 bool YearTurn::BringForward(int from, int to, SaveMessages messages) {
-    const ChangeResult result =
-        rooms_.Store.BringForward(rooms_.DataFolder, from, to, messages);
+    const ChangeResult result = rooms_.Store.BringForward(rooms_.DataFolder, from, to, messages);
     if (result != ChangeResult::Saved) {
         return false;
     }

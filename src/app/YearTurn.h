@@ -33,8 +33,8 @@ public:
     // At start-up, after the diary has been loaded: brings it forward from the year that the
     // settings hold when that lies behind. The year of the last roll-over stands beside the diary
     // too, so one that a crash has parted from the settings is not done again. A diary that cannot
-    // be brought forward now keeps its year. So does one that is ahead of the clock, unless the user
-    // says that the clock is right.
+    // be brought forward now keeps its year. So does one that is ahead of the clock, unless the
+    // user says that the clock is right.
     void YearUpdate();
 
     // The clock has reached another year while the program runs. Tried in silence: while the diary

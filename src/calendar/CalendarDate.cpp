@@ -20,8 +20,8 @@ int NofDays(int year, int month) {
     if (month < 0 || month >= kMonths) {
         return 0;
     }
-    const auto last = chrono::year(year) / chrono::month(static_cast<unsigned>(month) + 1U) /
-                      chrono::last;
+    const auto last =
+        chrono::year(year) / chrono::month(static_cast<unsigned>(month) + 1U) / chrono::last;
     return static_cast<int>(static_cast<unsigned>(last.day()));
 }
 
@@ -44,7 +44,8 @@ int ColumnOfWeekday(int weekday, WeekStart weekStart) {
 
 CalendarDate AddDays(const CalendarDate& date, int days) {
     const chrono::year_month_day moved(DaysOf(date) + chrono::days(days));
-    return {static_cast<int>(moved.year()), static_cast<int>(static_cast<unsigned>(moved.month())) - 1,
+    return {static_cast<int>(moved.year()),
+            static_cast<int>(static_cast<unsigned>(moved.month())) - 1,
             static_cast<int>(static_cast<unsigned>(moved.day()))};
 }
 

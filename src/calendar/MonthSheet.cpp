@@ -7,7 +7,9 @@ namespace kestrova {
 
 namespace {
 
-bool IsShown(int year) { return year >= kFirstYear && year <= kLastYear; }
+bool IsShown(int year) {
+    return year >= kFirstYear && year <= kLastYear;
+}
 
 } // namespace
 

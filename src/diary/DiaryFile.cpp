@@ -75,9 +75,8 @@ void AppendEvent(std::string& bytes, const DiaryEvent& event) {
 Result<DiaryEnd> ReadDiary(std::string_view bytes, DiaryTable& table) {
     LineReader lines(bytes);
     bool good = true;
-    EachStoredSlot([&](const SlotPlace& place) {
-        good = good && ReadEvent(lines, table.At(place));
-    });
+    EachStoredSlot(
+        [&](const SlotPlace& place) { good = good && ReadEvent(lines, table.At(place)); });
     if (!good) {
         return Error{ErrorCode::Damaged, "diary file"};
     }

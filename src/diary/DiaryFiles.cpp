@@ -16,13 +16,19 @@ constexpr std::size_t kNoteLimit = std::size_t{64} << 20U;
 constexpr std::size_t kJournalLimit = std::size_t{1} << 30U;
 constexpr std::string_view kMoreLinesMark = "with more lines";
 
-std::string JournalPath(const std::string& folder) { return NoteFolder(folder) + "Saving.tmp"; }
+std::string JournalPath(const std::string& folder) {
+    return NoteFolder(folder) + "Saving.tmp";
+}
 
-std::string YearPath(const std::string& folder) { return NoteFolder(folder) + "Year.dat"; }
+std::string YearPath(const std::string& folder) {
+    return NoteFolder(folder) + "Year.dat";
+}
 
 } // namespace
 
-std::string NoteFolder(const std::string& diaryFolder) { return diaryFolder + "DiaryDat/"; }
+std::string NoteFolder(const std::string& diaryFolder) {
+    return diaryFolder + "DiaryDat/";
+}
 
 std::string DiaryPath(const std::string& diaryFolder) {
     return NoteFolder(diaryFolder) + "Data.dat";

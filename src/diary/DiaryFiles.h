@@ -14,8 +14,8 @@
 
 namespace kestrova {
 
-// The folder under a diary folder that holds the diary file and the notes, and the diary file. Notes
-// belong to their diary, so that looking at a friend's can never rename or delete one's own.
+// The folder under a diary folder that holds the diary file and the notes, and the diary file.
+// Notes belong to their diary, so that looking at a friend's can never rename or delete one's own.
 [[nodiscard]] std::string NoteFolder(const std::string& diaryFolder);
 [[nodiscard]] std::string DiaryPath(const std::string& diaryFolder);
 
@@ -31,8 +31,8 @@ public:
     DiaryFiles(FileStore& files, const Clock& clock) : files_(files), clock_(clock) {}
 
     // Locks the folder and completes a save that a crash has cut short. Busy when someone else
-    // holds it for longer than a moment, or it cannot be written (Exclusive). Failed (Exclusive) when
-    // such a save cannot be completed now: writing on would lose its notes.
+    // holds it for longer than a moment, or it cannot be written (Exclusive). Failed (Exclusive)
+    // when such a save cannot be completed now: writing on would lose its notes.
     Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind);
 
     // NotFound, Busy, TooLarge, Damaged or Failed. Lines that no record uses are no damage, but the
@@ -45,8 +45,8 @@ public:
     Status Write(const std::string& folder, const DiaryTable& table, const NotePlan& notes,
                  std::optional<int> rolledTo = std::nullopt);
 
-    // The base year to which the diary was last rolled over; nothing when it never was. It stands in
-    // "Year.dat" beside the diary, so that of several programs that use one diary over New Year
+    // The base year to which the diary was last rolled over; nothing when it never was. It stands
+    // in "Year.dat" beside the diary, so that of several programs that use one diary over New Year
     // only one rolls it over.
     [[nodiscard]] std::optional<int> RolledTo(const std::string& folder) const;
 

@@ -58,8 +58,7 @@ void DiaryStore::GetData(const std::string& folder) {
 
 void DiaryStore::Reformat(const std::string& folder) {
     dialogs_.Show({texts_.Text(texts::kMessengerTitle),
-                   texts_.Text(texts::kDiaryCorrupt) + "\n" +
-                       texts_.Text(texts::kFilesReformatted),
+                   texts_.Text(texts::kDiaryCorrupt) + "\n" + texts_.Text(texts::kFilesReformatted),
                    DialogIcon::Critical});
     (void)Persist(SaveMessages::Show, [&] { return TryReformat(folder); });
 }
@@ -115,8 +114,8 @@ ChangeResult DiaryStore::Persist(SaveMessages messages, const std::function<Stat
     }
 }
 
-// The table to work on: memory where it is what the file holds, else the file. A file that has gone,
-// or is damaged and stays so, gives way to memory, the best there is then.
+// The table to work on: memory where it is what the file holds, else the file. A file that has
+// gone, or is damaged and stays so, gives way to memory, the best there is then.
 Result<DiaryTable> DiaryStore::Latest(const std::string& folder) {
     const auto now = files_.Stamp(folder);
     if (folder == folder_ && now == stamp_) {

@@ -41,7 +41,8 @@ public:
     // the user wants to try again, so it must not keep anything from an earlier call.
     using Edit = std::function<EditVerdict(EventList& events)>;
 
-    // `stop` ends the program in order; called when the diary cannot be saved and the user gives up.
+    // `stop` ends the program in order; called when the diary cannot be saved and the user gives
+    // up.
     DiaryStore(DiaryFiles& files, Dialogs& dialogs, const StringTable& texts,
                std::function<void()> stop)
         : files_(files), dialogs_(dialogs), texts_(texts), stop_(std::move(stop)) {}
@@ -68,12 +69,13 @@ public:
     DiaryNews Refresh();
 
     // Brings the diary of a folder forward from one base year to a later one, a copy of the old
-    // file kept beside it, and shows it. One that has been brought there already, by another program
-    // or before a crash, is only loaded.
+    // file kept beside it, and shows it. One that has been brought there already, by another
+    // program or before a crash, is only loaded.
     ChangeResult BringForward(const std::string& folder, int fromYear, int toYear,
                               SaveMessages messages);
 
-    // Says that a diary belongs to this base year, events and all, a copy of the file kept beside it.
+    // Says that a diary belongs to this base year, events and all, a copy of the file kept beside
+    // it.
     ChangeResult SetYear(const std::string& folder, int year);
 
     // The base year to which the diary of a folder was last rolled over.

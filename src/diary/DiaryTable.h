@@ -8,12 +8,12 @@
 
 namespace kestrova {
 
-inline constexpr int kDiaryYears = 2;        // index 0: the base year, 1: the next
-inline constexpr int kEventsPerDay = 10;     // slots 1-10, sorted by time, without gaps
-inline constexpr int kScratchSlot = 11;      // where an event waits to be sorted in; never stored
-inline constexpr int kStoredMonths = 13;     // 0-12 stand in the file, 0-11 are months
-inline constexpr int kStoredDays = 32;       // 0-31 stand in the file, 1-31 are days
-inline constexpr int kStoredSlots = 11;      // 0-10 stand in the file; slot 0 is always free
+inline constexpr int kDiaryYears = 2;    // index 0: the base year, 1: the next
+inline constexpr int kEventsPerDay = 10; // slots 1-10, sorted by time, without gaps
+inline constexpr int kScratchSlot = 11;  // where an event waits to be sorted in; never stored
+inline constexpr int kStoredMonths = 13; // 0-12 stand in the file, 0-11 are months
+inline constexpr int kStoredDays = 32;   // 0-31 stand in the file, 1-31 are days
+inline constexpr int kStoredSlots = 11;  // 0-10 stand in the file; slot 0 is always free
 inline constexpr int kTableMonths = 14;
 inline constexpr int kTableSlots = 12;
 

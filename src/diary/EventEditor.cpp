@@ -17,7 +17,9 @@ constexpr int kLastMonthlyDay = 28;
 constexpr CalendarDate kLeapDay{2000, 1, 29};
 constexpr std::size_t kMediaFile = 1; // where Extra holds the path
 
-std::int16_t TimeNumber(std::string_view text) { return ReadInt16(text).value_or(0); }
+std::int16_t TimeNumber(std::string_view text) {
+    return ReadInt16(text).value_or(0);
+}
 
 } // namespace
 
@@ -27,7 +29,9 @@ bool IsTimeText(std::string_view text, int limit) {
            TimeNumber(text) <= limit;
 }
 
-std::string PadTime(std::string_view text) { return TwoDigits(TimeNumber(text)); }
+std::string PadTime(std::string_view text) {
+    return TwoDigits(TimeNumber(text));
+}
 
 std::vector<std::string> EventEditor::BuildRmdList() const {
     std::vector<std::string> list;
@@ -127,8 +131,7 @@ bool EventEditor::CollectDetails(ReminderKind kind) {
         }
         return true;
     case ReminderKind::Phone:
-        if (rooms_.Settings.ModemDescription.empty() ||
-            rooms_.Details.Modem() != ModemState::On) {
+        if (rooms_.Settings.ModemDescription.empty() || rooms_.Details.Modem() != ModemState::On) {
             ShowRefusal({texts::kNoCallModemDisabled, texts::kEnableModem});
             return false;
         }
@@ -227,8 +230,13 @@ AcceptResult EventEditor::Accept(EventDraft& draft) {
             draft.Rmd = ReminderCaption(rooms_.Texts, ReminderKind::Screen);
         }
     }
-    const DiaryEvent event{TimeNumber(draft.Hour), TimeNumber(draft.Minute), msg, draft.Rpt,
-                           draft.Rmd, extra_, static_cast<std::int16_t>(draft.Hide ? 1 : 0)};
+    const DiaryEvent event{TimeNumber(draft.Hour),
+                           TimeNumber(draft.Minute),
+                           msg,
+                           draft.Rpt,
+                           draft.Rmd,
+                           extra_,
+                           static_cast<std::int16_t>(draft.Hide ? 1 : 0)};
     const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
         removing_.clear();
         dayFull_ = false;

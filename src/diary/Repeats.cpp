@@ -52,13 +52,12 @@ std::optional<CalendarDate> NextOccurrence(const Repeat& repeat, const CalendarD
 }
 
 std::vector<std::string> BuildRptList(const StringTable& table, const CalendarDate& date) {
-    return {RepeatCaption(table, RepeatKind::Never),   RepeatCaption(table, RepeatKind::Daily),
-            RepeatCaption(table, RepeatKind::Weekly),  RepeatCaption(table, RepeatKind::Monthly),
-            OrdinalWeekdayCaption(table, date),        RepeatCaption(table, RepeatKind::Annually)};
+    return {RepeatCaption(table, RepeatKind::Never),  RepeatCaption(table, RepeatKind::Daily),
+            RepeatCaption(table, RepeatKind::Weekly), RepeatCaption(table, RepeatKind::Monthly),
+            OrdinalWeekdayCaption(table, date),       RepeatCaption(table, RepeatKind::Annually)};
 }
 
-void RepeatMsg(EventList& events, const StringTable& table, int baseYear,
-               const SlotPlace& source) {
+void RepeatMsg(EventList& events, const StringTable& table, int baseYear, const SlotPlace& source) {
     const auto repeat = RepeatOf(table, events.Table().At(source).Rpt);
     if (!repeat || repeat->Kind == RepeatKind::Never) {
         return;

@@ -204,9 +204,8 @@ constexpr BuiltInText kEnglish[] = {
 };
 // clang-format on
 
-constexpr std::array<const char*, kMonths> kMonthMenu = {"&Jan", "F&eb", "&Mar", "&Apr",
-                                                         "Ma&y", "J&un", "Ju&l", "Au&g",
-                                                         "&Sep", "&Oct", "&Nov", "&Dec"};
+constexpr std::array<const char*, kMonths> kMonthMenu = {
+    "&Jan", "F&eb", "&Mar", "&Apr", "Ma&y", "J&un", "Ju&l", "Au&g", "&Sep", "&Oct", "&Nov", "&Dec"};
 
 constexpr std::array<const char*, kDaysOfWeek> kWeekdays = {
     "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"};
@@ -217,7 +216,9 @@ constexpr std::array<std::string_view, kMonths> kMonthNames = {
 
 } // namespace
 
-std::string_view EnglishMonthName(int month) { return kMonthNames[static_cast<std::size_t>(month)]; }
+std::string_view EnglishMonthName(int month) {
+    return kMonthNames[static_cast<std::size_t>(month)];
+}
 
 StringTable MsgDefaults() {
     StringTable table;

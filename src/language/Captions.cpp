@@ -34,8 +34,12 @@ constexpr CaptionRow kTips[] = {
 
 } // namespace
 
-std::span<const CaptionRow> CaptionRows() { return kCaptions; }
+std::span<const CaptionRow> CaptionRows() {
+    return kCaptions;
+}
 
-std::span<const CaptionRow> TipRows() { return kTips; }
+std::span<const CaptionRow> TipRows() {
+    return kTips;
+}
 
 } // namespace kestrova

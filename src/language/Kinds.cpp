@@ -15,7 +15,9 @@ constexpr std::array<std::string_view, 5> kOrdinalNames = {"1st ", "2nd ", "3rd 
 constexpr std::array kFixedKinds = {RepeatKind::Never, RepeatKind::Daily, RepeatKind::Weekly,
                                     RepeatKind::Monthly, RepeatKind::Annually};
 
-TextId Nth(TextId first, int n) { return {first.Group, first.Entry + n}; }
+TextId Nth(TextId first, int n) {
+    return {first.Group, first.Entry + n};
+}
 
 std::optional<OrdinalWeekday> OrdinalWeekdayOf(const StringTable& table, std::string_view text) {
     for (int weekday = 1; weekday <= kDaysOfWeek; ++weekday) {

@@ -44,8 +44,7 @@ struct Repeat {
 
 // The caption for events that repeat on the same weekday of the month as this date: the ordinal in
 // four characters, a blank, the weekday: "2nd  Tuesday", "Last Friday" (also for a fourth one).
-[[nodiscard]] std::string OrdinalWeekdayCaption(const StringTable& table,
-                                                const CalendarDate& date);
+[[nodiscard]] std::string OrdinalWeekdayCaption(const StringTable& table, const CalendarDate& date);
 
 // Nothing for a text of no kind of this language: such an event is kept, and not repeated.
 [[nodiscard]] std::optional<Repeat> RepeatOf(const StringTable& table, std::string_view text);

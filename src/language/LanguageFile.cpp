@@ -16,9 +16,13 @@ std::optional<bool> ReadTruth(std::string_view text) {
     return text == "False" ? std::optional(false) : std::nullopt;
 }
 
-bool IsHeading(std::string_view field) { return field.ends_with(kHeadingEnd); }
+bool IsHeading(std::string_view field) {
+    return field.ends_with(kHeadingEnd);
+}
 
-Error Cut() { return {ErrorCode::Damaged, "language block cut short"}; }
+Error Cut() {
+    return {ErrorCode::Damaged, "language block cut short"};
+}
 
 // No caption, tip or message is anywhere near as long.
 constexpr std::size_t kLongestText = 2000; // bytes

@@ -51,7 +51,8 @@ bool Languages::ChangeLanguage(int& languageIndex) {
         languageIndex = 0;
         table_ = MsgDefaults();
     }
-    choices_.Checked = languageIndex < kFixedLanguages ? std::optional(languageIndex) : std::nullopt;
+    choices_.Checked =
+        languageIndex < kFixedLanguages ? std::optional(languageIndex) : std::nullopt;
     return loaded;
 }
 

@@ -23,7 +23,8 @@ inline constexpr int kFixedLanguages = 8;
 
 // What the user may choose from, as the language file has it.
 struct LanguageChoices {
-    std::vector<std::string> Names; // of the blocks, in file order, untrimmed; "English" without one
+    std::vector<std::string>
+        Names; // of the blocks, in file order, untrimmed; "English" without one
     std::array<bool, kFixedLanguages> Enabled{}; // items of the language menu
     std::optional<int> Checked;                  // the item of the language in use
 };
@@ -40,8 +41,8 @@ public:
     // English; an index without a block leaves the texts as they are.
     void GetLanguage(int& languageIndex);
 
-    // Loads the block of this index after the user has picked it, by the same rules. Returns whether
-    // there was such a block.
+    // Loads the block of this index after the user has picked it, by the same rules. Returns
+    // whether there was such a block.
     bool ChangeLanguage(int& languageIndex);
 
     [[nodiscard]] const LanguageChoices& Choices() const { return choices_; }

@@ -14,7 +14,8 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Cou
     "The event being edited has not been saved.",
     "Save It",
     "Go On Editing",
-    "The computer's clock shows the year %1, which is before the year of your diary.\n\nIf the clock "
+    "The computer's clock shows the year %1, which is before the year of your diary.\n\nIf the "
+    "clock "
     "is wrong, keep the diary's year and set the clock: until then no reminders are given. If the "
     "clock is right, the diary can go by it; a copy of it as it is now is kept.",
     "Go by the Clock",
@@ -56,7 +57,9 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(ProgramText::Cou
 
 } // namespace
 
-std::string_view TextOf(ProgramText text) { return kEnglish[static_cast<std::size_t>(text)]; }
+std::string_view TextOf(ProgramText text) {
+    return kEnglish[static_cast<std::size_t>(text)];
+}
 
 std::string TextOf(ProgramText text, std::string_view value) {
     constexpr std::string_view kPlace = "%1";

@@ -14,8 +14,8 @@ inline constexpr int kTextsPerGroup = 51;
 
 // The groups of texts. The numbers are their order in a language block.
 enum class TextGroup {
-    Captions = 0, // window titles and frame captions
-    Buttons = 1,  // "Buttons & Options"
+    Captions = 0,  // window titles and frame captions
+    Buttons = 1,   // "Buttons & Options"
     Selectors = 2, // items of drop-down lists
     Labels = 3,
     Tips = 4,    // "Mouse Tip Text"
@@ -45,7 +45,8 @@ struct TitleFont {
 struct StringTable {
     std::array<std::array<std::string, kTextsPerGroup>, kTextGroups> Texts;
     std::array<std::string, kMonths> MonthNames; // padded by blanks in the built-in English
-    std::array<std::string, kMonths> MonthMenu;  // captions of the month menu, "&" before access keys
+    std::array<std::string, kMonths>
+        MonthMenu; // captions of the month menu, "&" before access keys
     std::array<std::string, kDaysOfWeek> WeekdayNames; // Monday first, whatever the week start
     std::string LanguageFont;                          // empty: the desktop's own
     TitleFont Title;

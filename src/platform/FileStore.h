@@ -41,8 +41,8 @@ class FileStore {
 public:
     virtual ~FileStore() = default;
 
-    // The whole file. NotFound, Busy (not permitted), TooLarge (more than `limit` bytes), Damaged (a
-    // folder or a pipe in the file's place) or Failed.
+    // The whole file. NotFound, Busy (not permitted), TooLarge (more than `limit` bytes), Damaged
+    // (a folder or a pipe in the file's place) or Failed.
     virtual Result<std::string> Read(const std::string& path, std::size_t limit) const = 0;
 
     // Puts a file with these bytes in the place of the old one, as one step: after a crash at any
@@ -71,14 +71,14 @@ public:
     // there is no such folder.
     [[nodiscard]] virtual std::vector<std::string> List(const std::string& folder) const = 0;
 
-    // Deletes what writes that a crash has cut short have left in a folder. Only for a folder in which
-    // nobody is writing.
+    // Deletes what writes that a crash has cut short have left in a folder. Only for a folder in
+    // which nobody is writing.
     virtual void RemoveLeftovers(const std::string& folder) = 0;
 
-    // Locks the file at `path` for everyone who uses this function, by way of a small companion file
-    // beside it, and refuses when another program has locked the file itself. Waits at most `limit`.
-    // Busy when someone else holds it or the folder cannot be written (Exclusive); a folder that
-    // cannot be written is no obstacle to a Shared lock.
+    // Locks the file at `path` for everyone who uses this function, by way of a small companion
+    // file beside it, and refuses when another program has locked the file itself. Waits at most
+    // `limit`. Busy when someone else holds it or the folder cannot be written (Exclusive); a
+    // folder that cannot be written is no obstacle to a Shared lock.
     virtual Result<std::unique_ptr<FileLock>> Lock(const std::string& path, LockKind kind,
                                                    std::chrono::milliseconds limit) = 0;
 };

@@ -28,8 +28,8 @@ public:
     // one that runs. What a killed program left behind is no obstacle. Call once, first of all.
     virtual InstanceRole Join() = 0;
 
-    // Called with each text that a newcomer pokes into the item, on the thread of the window events.
-    // Texts that arrived before this call are delivered with it.
+    // Called with each text that a newcomer pokes into the item, on the thread of the window
+    // events. Texts that arrived before this call are delivered with it.
     virtual void OnPoke(std::function<void(std::string_view text)> handler) = 0;
 };
 

@@ -100,8 +100,8 @@ private:
     bool clearing_ = false; // ClearingReminders
     bool firstDraw_ = false;
     Trouble trouble_ = Trouble::None;
-    int returnCountdown_ = 0; // ReturnCountdown
-    std::optional<int> lastDay_; // LastDay
+    int returnCountdown_ = 0;            // ReturnCountdown
+    std::optional<int> lastDay_;         // LastDay
     std::optional<WallTime> lastLook_;   // at the diary's file
     std::optional<WallTime> lastMinute_; // of the last tick, seconds left out
 };

@@ -13,10 +13,12 @@ namespace {
 constexpr std::chrono::seconds kAcknowledgeTime{20};
 constexpr int kPauseBetweenCalls = 20; // seconds
 constexpr int kDefaultRepeat = 15;
-constexpr std::size_t kMediaFile = 1; // where Extra holds the path
+constexpr std::size_t kMediaFile = 1;                      // where Extra holds the path
 constexpr std::array<std::size_t, 3> kNumbers = {1, 2, 3}; // where Extra holds the numbers
 
-int RepeatPeriod(const std::string& text) { return ReadInt16(text).value_or(kDefaultRepeat); }
+int RepeatPeriod(const std::string& text) {
+    return ReadInt16(text).value_or(kDefaultRepeat);
+}
 
 // Whether a counter of examined reminders says that it is time again.
 bool IsTurn(int count, const std::string& period) {
@@ -41,7 +43,9 @@ std::optional<int> FindExactly(const DiaryTable& table, const DayPlace& day,
 
 } // namespace
 
-std::string ReminderLine(const DiaryEvent& event) { return EventTime(event) + "    " + event.Msg; }
+std::string ReminderLine(const DiaryEvent& event) {
+    return EventTime(event) + "    " + event.Msg;
+}
 
 DayPlace ReminderReview::Today() const {
     return {rooms_.Dates.TodayDay, rooms_.Dates.TodayMonth, 0};

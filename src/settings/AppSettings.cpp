@@ -24,9 +24,9 @@ void SetDefault(AppSettings& settings) {
     settings.SpeakRepeat = "15";
     const std::int32_t text = settings.ColourOf(ColourRole::Text).Number();
     const std::int32_t today = settings.ColourOf(ColourRole::Today).Number();
-    settings.PrintStyles = {PrintStyle{"Arial", 20, 1, 0, text}, PrintStyle{"Arial", 12, 1, 0, text},
-                            PrintStyle{"Arial", 14, 0, 0, text},
-                            PrintStyle{"Arial", 8, 0, 0, today}};
+    settings.PrintStyles = {
+        PrintStyle{"Arial", 20, 1, 0, text}, PrintStyle{"Arial", 12, 1, 0, text},
+        PrintStyle{"Arial", 14, 0, 0, text}, PrintStyle{"Arial", 8, 0, 0, today}};
     settings.PrintValues = {"0.50", "0.25", "0.25", "1.00"};
     settings.PrintNumber1 = 0;
     settings.PrintNumber2 = 9;

@@ -41,8 +41,8 @@ inline constexpr std::size_t kPrintStyles = 4;
 // stored in "Settings.dat". Flags are 0 or 1. Choices from lists are held by their displayed text.
 // A member's initial value is what a first start begins with; SetDefault touches only some.
 struct AppSettings {
-    std::string Reserved1;      // not ours; handed back as it was read
-    std::int16_t DataYear = 0;  // the year that the diary has been brought forward to
+    std::string Reserved1;     // not ours; handed back as it was read
+    std::int16_t DataYear = 0; // the year that the diary has been brought forward to
     std::array<Colour, kColourRoles> Colours;
     std::array<std::string, 4> StoredNumbers; // telephone numbers
     std::int16_t KeepAspect = 0;

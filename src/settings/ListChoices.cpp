@@ -39,7 +39,9 @@ std::optional<ChimeInterval> ChimeIntervalOf(const AppSettings& settings,
     return index ? std::optional(static_cast<ChimeInterval>(*index)) : std::nullopt;
 }
 
-bool HasModemPort(const AppSettings& settings) { return settings.ModemPort.starts_with("Com"); }
+bool HasModemPort(const AppSettings& settings) {
+    return settings.ModemPort.starts_with("Com");
+}
 
 void TranslateChoices(AppSettings& settings, const StringTable& before, const StringTable& after) {
     const auto translate = [&](std::string& text, TextId first, int count) {

@@ -9,7 +9,8 @@ namespace kestrova {
 // Texts are UTF-8 in memory and in every file this program writes. Files written by older
 // programs hold single-byte text, so a line that is not valid UTF-8 is taken as Windows-1252.
 
-// True when the bytes are well-formed UTF-8 (no overlong forms, surrogates or values past U+10FFFF).
+// True when the bytes are well-formed UTF-8 (no overlong forms, surrogates or values past
+// U+10FFFF).
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 
 // The bytes of a Windows-1252 text as UTF-8. Every byte has a meaning: the five that the code page

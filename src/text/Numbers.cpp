@@ -35,11 +35,17 @@ std::string_view Trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-std::optional<std::int16_t> ReadInt16(std::string_view text) { return Read<std::int16_t>(text); }
+std::optional<std::int16_t> ReadInt16(std::string_view text) {
+    return Read<std::int16_t>(text);
+}
 
-std::optional<std::int32_t> ReadInt32(std::string_view text) { return Read<std::int32_t>(text); }
+std::optional<std::int32_t> ReadInt32(std::string_view text) {
+    return Read<std::int32_t>(text);
+}
 
-std::optional<float> ReadFloat(std::string_view text) { return Read<float>(text); }
+std::optional<float> ReadFloat(std::string_view text) {
+    return Read<float>(text);
+}
 
 void AppendNumber(std::string& out, std::int32_t value) {
     if (value >= 0) {

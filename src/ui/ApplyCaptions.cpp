@@ -37,9 +37,8 @@ void ApplyCaptions(QWidget& window, const StringTable& table, TipTexts tips) {
     }
     if (tips == TipTexts::Apply) {
         for (const CaptionRow& row : TipRows()) {
-            auto* const widget = row.Window == name
-                                     ? window.findChild<QWidget*>(ToQt(row.Control))
-                                     : nullptr;
+            auto* const widget =
+                row.Window == name ? window.findChild<QWidget*>(ToQt(row.Control)) : nullptr;
             if (widget != nullptr) {
                 widget->setToolTip(ToQt(table.Text(row.Text)));
             }

@@ -7,9 +7,9 @@
 namespace kestrova::look {
 
 // What makes the windows one family.
-inline constexpr int kMargin = 16;  // around a window's content, in pixels
-inline constexpr int kSpacing = 8;  // between controls
-inline constexpr int kRadius = 10;  // of a card's corners
+inline constexpr int kMargin = 16; // around a window's content, in pixels
+inline constexpr int kSpacing = 8; // between controls
+inline constexpr int kRadius = 10; // of a card's corners
 
 // The desktop's own accent.
 [[nodiscard]] inline QColor Accent(const QPalette& palette) {

@@ -10,6 +10,8 @@ namespace kestrova {
     return (twips + kTwipsPerPixel / 2) / kTwipsPerPixel;
 }
 
-[[nodiscard]] constexpr int Twips(int pixels) { return pixels * 15; }
+[[nodiscard]] constexpr int Twips(int pixels) {
+    return pixels * 15;
+}
 
 } // namespace kestrova

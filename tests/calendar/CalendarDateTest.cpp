@@ -7,7 +7,9 @@ namespace kestrova {
 namespace {
 
 // The calendar once more, as one would do it by hand: count days from month to month.
-bool IsLeap(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool IsLeap(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
 
 int DaysByHand(int year, int month) {
     constexpr int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
@@ -45,9 +47,9 @@ TEST(CalendarDateTest, KnownDatesFallOnTheirWeekdays) {
         int Weekday;
     };
     const Row rows[] = {
-        {{1582, 9, 15}, 5},  // the first day of the Gregorian calendar, a Friday
-        {{1815, 5, 18}, 7},  // Waterloo, a Sunday
-        {{1969, 6, 20}, 7},  // the first steps on the Moon, a Sunday
+        {{1582, 9, 15}, 5}, // the first day of the Gregorian calendar, a Friday
+        {{1815, 5, 18}, 7}, // Waterloo, a Sunday
+        {{1969, 6, 20}, 7}, // the first steps on the Moon, a Sunday
         {{1999, 0, 1}, 5},   {{2000, 0, 1}, 6},  {{2000, 1, 29}, 2},
         {{2026, 11, 31}, 4}, {{1600, 1, 29}, 2},
     };
@@ -71,8 +73,8 @@ TEST(CalendarDateTest, ColumnsAndWeekdaysAreEachOthersReverse) {
         WeekStart Start;
         int Leftmost;
     };
-    for (const Row row : {Row{WeekStart::Monday, 1}, Row{WeekStart::Sunday, 7},
-                          Row{WeekStart::Saturday, 6}}) {
+    for (const Row row :
+         {Row{WeekStart::Monday, 1}, Row{WeekStart::Sunday, 7}, Row{WeekStart::Saturday, 6}}) {
         SCOPED_TRACE(row.Leftmost);
         EXPECT_EQ(WeekdayOfColumn(0, row.Start), row.Leftmost);
         for (int column = 0; column < 7; ++column) {

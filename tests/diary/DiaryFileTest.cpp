@@ -12,7 +12,9 @@ namespace {
 
 constexpr std::size_t kRecords = 2 * 13 * 32 * 11;
 
-std::string FreeRecord() { return " 0 \r\n 0 \r\n\r\n\r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n"; }
+std::string FreeRecord() {
+    return " 0 \r\n 0 \r\n\r\n\r\n\r\n 0 \r\n\r\n\r\n\r\n\r\n";
+}
 
 std::string FileWith(std::size_t record, const std::string& lines) {
     std::string bytes;
@@ -173,7 +175,8 @@ TEST(NoteNameTest, NoTwoPlacesShareAName) {
         }
         EXPECT_TRUE(names.insert(name).second) << name;
     });
-    for (const char* const other : {"Data.dat", "BBAA.tx", "bbaa.txt", "../a.txt", "BZAA.txt", ""}) {
+    for (const char* const other :
+         {"Data.dat", "BBAA.tx", "bbaa.txt", "../a.txt", "BZAA.txt", ""}) {
         EXPECT_FALSE(IsNoteName(other)) << other;
     }
 }

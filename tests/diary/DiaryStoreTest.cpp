@@ -168,9 +168,7 @@ TEST(DiaryStoreTest, ADiaryThatArrivesDuringTheMessageIsNotReplaced) {
     DiaryScene scene;
     DiaryTable theirs;
     theirs.At({1, kDay}) = MakeEvent(9, 0, "arrived");
-    scene.Boxes.WhileOpen = [&] {
-        scene.Files.Put("/late/DiaryDat/Data.dat", WriteDiary(theirs));
-    };
+    scene.Boxes.WhileOpen = [&] { scene.Files.Put("/late/DiaryDat/Data.dat", WriteDiary(theirs)); };
     scene.Store.GetData("/late/");
     EXPECT_EQ(Messages(scene.Store.Table(), kDay), "arrived");
     EXPECT_EQ(scene.Files.Content("/late/DiaryDat/Data.dat"), WriteDiary(theirs));
@@ -242,7 +240,8 @@ TEST(DiaryStoreTest, FormattingClearsEventsAndNotes) {
 }
 
 // Crashes an operation at each of its writes in turn, and looks at what the next start finds.
-template<typename Operation, typename Check> void CrashEverywhere(Operation operation, Check check) {
+template<typename Operation, typename Check>
+void CrashEverywhere(Operation operation, Check check) {
     for (int at = 0; at < 20; ++at) {
         SCOPED_TRACE("crash before write " + std::to_string(at));
         DiaryScene scene;

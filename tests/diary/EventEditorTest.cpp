@@ -203,7 +203,8 @@ TEST(EventEditorTest, RemindersCollectTheirDetails) {
     EXPECT_EQ(table.At({2, kDay}).Extra[1], "5551234");
     EXPECT_EQ(table.At({3, kDay}).Extra[1], "/music/bell.wav");
     EXPECT_THAT(page.Details.Previews, ElementsAre("/music/bell.wav"));
-    EXPECT_EQ(table.At({4, kDay}).Extra, ReminderExtra()) << "one event's details are not another's";
+    EXPECT_EQ(table.At({4, kDay}).Extra, ReminderExtra())
+        << "one event's details are not another's";
     EXPECT_EQ(table.At({5, kDay}).Extra[2], "bob@example.org");
 }
 

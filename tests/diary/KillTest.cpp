@@ -59,7 +59,8 @@ int RunAndKill(const std::string& folder, int from, useconds_t after) {
 }
 
 TEST(KillTest, NoAcceptedEventIsLostAndNoFileIsDamaged) {
-    std::string pattern = (std::filesystem::temp_directory_path() / "kestrova-kill-XXXXXX").string();
+    std::string pattern =
+        (std::filesystem::temp_directory_path() / "kestrova-kill-XXXXXX").string();
     ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
     const std::string folder = pattern + "/";
     std::filesystem::create_directory(NoteFolder(folder));

@@ -84,12 +84,11 @@ TEST(RepeatsTest, ALeapDayIsDailyToo) {
 TEST(RepeatsTest, DatesThatAMonthDoesNotHaveArePassedOver) {
     Repeated repeated(2023);
     repeated.Write({2023, 9, 31}, "Monthly"); // from a file of another program
-    EXPECT_THAT(repeated.Dates(),
-                ElementsAre(CalendarDate{2023, 9, 31}, CalendarDate{2023, 11, 31},
-                            CalendarDate{2024, 0, 31}, CalendarDate{2024, 2, 31},
-                            CalendarDate{2024, 4, 31}, CalendarDate{2024, 6, 31},
-                            CalendarDate{2024, 7, 31}, CalendarDate{2024, 9, 31},
-                            CalendarDate{2024, 11, 31}));
+    EXPECT_THAT(repeated.Dates(), ElementsAre(CalendarDate{2023, 9, 31}, CalendarDate{2023, 11, 31},
+                                              CalendarDate{2024, 0, 31}, CalendarDate{2024, 2, 31},
+                                              CalendarDate{2024, 4, 31}, CalendarDate{2024, 6, 31},
+                                              CalendarDate{2024, 7, 31}, CalendarDate{2024, 9, 31},
+                                              CalendarDate{2024, 11, 31}));
 }
 
 TEST(RepeatsTest, DailyEventsAreHiddenAndOthersAreNot) {

@@ -98,7 +98,9 @@ Status MemoryFileStore::Remove(const std::string& path) {
     return Done{};
 }
 
-Status MemoryFileStore::MakeFolder(const std::string& /*path*/) { return Done{}; }
+Status MemoryFileStore::MakeFolder(const std::string& /*path*/) {
+    return Done{};
+}
 
 std::optional<FileStamp> MemoryFileStore::Stamp(const std::string& path) const {
     const auto file = files_.find(path);

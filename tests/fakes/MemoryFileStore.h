@@ -28,8 +28,8 @@ public:
     void HoldLock(const std::string& path) { held_.insert(path); }
     void ReleaseLock(const std::string& path) { held_.erase(path); }
 
-    // The so-many-th write (or removal) from now on, counted from 0, and all after it do nothing and
-    // fail: the disc as it is after a crash at that moment.
+    // The so-many-th write (or removal) from now on, counted from 0, and all after it do nothing
+    // and fail: the disc as it is after a crash at that moment.
     void CrashAfter(int writes) { writesLeft_ = writes; }
     void Recover() { writesLeft_.reset(); }
 

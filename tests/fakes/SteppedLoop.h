@@ -7,8 +7,8 @@
 
 namespace kestrova {
 
-// An event loop in which nothing takes time: a wait lets one step of a test run, asks once more, and
-// is over.
+// An event loop in which nothing takes time: a wait lets one step of a test run, asks once more,
+// and is over.
 class SteppedLoop : public EventLoop {
 public:
     std::function<void()> WhileWaiting;

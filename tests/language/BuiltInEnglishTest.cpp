@@ -43,8 +43,9 @@ TEST(BuiltInEnglishTest, TextsReadExactlyAsTheyAlwaysHave) {
         {2, 44, "Annually"},
         {2, 45, "Unused"},
         {3, 0, "<<Double Click Here To Add An Event>>"},
-        {3, 9, "Remmeber to set your dial up connection to connect automatically and hang up after "
-               "send and receive. See help for more information."},
+        {3, 9,
+         "Remmeber to set your dial up connection to connect automatically and hang up after "
+         "send and receive. See help for more information."},
         {3, 17, " R   G    B"},
         {3, 25, ""},
         {3, 31, "Screen"},

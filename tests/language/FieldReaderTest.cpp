@@ -39,8 +39,16 @@ TEST(FieldReaderTest, FieldsEndAtCommasAndLineEnds) {
         {"an empty quoted field", "\"\"\r\none\r\n", {"", "one"}},
         {"a quote inside is a character", "5\" disc\r\n", {"5\" disc"}},
         {"an open quote ends with its line", "\"one, two\r\nthree\r\n", {"one, two", "three"}},
-        {"a mark at the front", "\xEF\xBB\xBF" "one\r\n", {"one"}},
-        {"older bytes", "Fran\xE7" "ais\r\nM\xC3\xA4rz\r\n", {"Fran\xC3\xA7" "ais", "M\xC3\xA4rz"}},
+        {"a mark at the front",
+         "\xEF\xBB\xBF"
+         "one\r\n",
+         {"one"}},
+        {"older bytes",
+         "Fran\xE7"
+         "ais\r\nM\xC3\xA4rz\r\n",
+         {"Fran\xC3\xA7"
+          "ais",
+          "M\xC3\xA4rz"}},
         {"nothing", "", {}},
     };
     for (const Row& row : rows) {

@@ -8,8 +8,7 @@
 namespace kestrova {
 
 // The 342 lines of one language, each text saying where it stands: "De 3.17" is entry 3.17.
-inline std::vector<std::string> LanguageBlock(const std::string& heading,
-                                              const std::string& mark) {
+inline std::vector<std::string> LanguageBlock(const std::string& heading, const std::string& mark) {
     std::vector<std::string> lines = {heading, mark + " Font", "13.5", "True", "False"};
     for (int month = 1; month <= 12; ++month) {
         lines.push_back(mark + " month " + std::to_string(month));

@@ -56,9 +56,17 @@ TEST(LanguageFileTest, HeadingsEndInLanguage) {
         {"Greek Language", {"Greek "}},
         {"\"Greek Language\"", {"Greek "}},
         {"   Deutsch   Language", {"Deutsch   "}},
-        {"Fran\xE7" "ais Language", {"Fran\xC3\xA7" "ais "}},
-        {"Fran\xC3\xA7" "ais Language", {"Fran\xC3\xA7" "ais "}},
-        {"\xEF\xBB\xBF" "English Language", {"English "}},
+        {"Fran\xE7"
+         "ais Language",
+         {"Fran\xC3\xA7"
+          "ais "}},
+        {"Fran\xC3\xA7"
+         "ais Language",
+         {"Fran\xC3\xA7"
+          "ais "}},
+        {"\xEF\xBB\xBF"
+         "English Language",
+         {"English "}},
         {"EnglishLanguage", {"English"}},
         {"Language", {""}},
         {"English language", {}},
@@ -142,10 +150,10 @@ TEST(LanguageFileTest, TheTitleFontMustBeNumberAndTruths) {
         bool Good;
     };
     const Row rows[] = {
-        {2, "8.25", true},    {2, " 12 ", true},    {2, "", false},     {2, "big", false},
-        {2, "0", false},      {2, "-12", false},    {2, "nan", false},  {2, "inf", false},
-        {2, "100000", false}, {3, " True ", true},  {3, "False", true}, {3, "Yes", false},
-        {3, "", false},       {4, "False ", true},  {4, "True", true},  {4, "0", false},
+        {2, "8.25", true},    {2, " 12 ", true},   {2, "", false},     {2, "big", false},
+        {2, "0", false},      {2, "-12", false},   {2, "nan", false},  {2, "inf", false},
+        {2, "100000", false}, {3, " True ", true}, {3, "False", true}, {3, "Yes", false},
+        {3, "", false},       {4, "False ", true}, {4, "True", true},  {4, "0", false},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::to_string(row.Line) + " '" + row.Field + "'");

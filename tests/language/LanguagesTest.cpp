@@ -46,7 +46,8 @@ TEST_F(LanguagesTest, WithoutAFileThereIsOnlyEnglish) {
 }
 
 TEST_F(LanguagesTest, AFileThatHoldsNoBlockGivesEnglish) {
-    for (const char* const bytes : {"", "not a language file\r\n", "English Language\r\nArial\r\n"}) {
+    for (const char* const bytes :
+         {"", "not a language file\r\n", "English Language\r\nArial\r\n"}) {
         SCOPED_TRACE(bytes);
         PutFile(bytes);
         int index = 0;
@@ -57,13 +58,15 @@ TEST_F(LanguagesTest, AFileThatHoldsNoBlockGivesEnglish) {
 }
 
 TEST_F(LanguagesTest, TheBlockOfTheIndexIsLoadedAndChecked) {
-    PutFile(Block("English Language", "En") + Block("Fran\xE7" "ais Language", "Fr"));
+    PutFile(Block("English Language", "En") + Block("Fran\xE7"
+                                                    "ais Language",
+                                                    "Fr"));
     int index = 1;
     languages_.GetLanguage(index);
     EXPECT_EQ(index, 1);
     EXPECT_EQ(FirstText(), "Fr 0.0");
-    EXPECT_EQ(languages_.Choices().Names,
-              (std::vector<std::string>{"English ", "Fran\xC3\xA7" "ais "}));
+    EXPECT_EQ(languages_.Choices().Names, (std::vector<std::string>{"English ", "Fran\xC3\xA7"
+                                                                                "ais "}));
     EXPECT_EQ(languages_.Choices().Enabled, (Enabled{true, true}));
     EXPECT_EQ(languages_.Choices().Checked, 1);
 }
@@ -75,7 +78,10 @@ TEST_F(LanguagesTest, ALanguageIsCheckedOnlyInItsOwnPlaceOfTheList) {
         std::optional<int> Checked;
     };
     const Row rows[] = {
-        {"Fran\xC3\xA7" "ais Language", {true, true}, 1},
+        {"Fran\xC3\xA7"
+         "ais Language",
+         {true, true},
+         1},
         {"Deutsch Language", {true, false, true}, std::nullopt},
         {"Greek Language", {true, false, false, false, false, false, false, true}, std::nullopt},
         {"  Espanol    Language", {true, false, false, true}, std::nullopt},
@@ -116,9 +122,13 @@ TEST_F(LanguagesTest, AnIndexWithoutABlockLeavesTheTextsAsTheyAre) {
 }
 
 TEST_F(LanguagesTest, ADamagedBlockGoesBackToEnglish) {
-    auto damaged = LanguageBlock("Fran\xC3\xA7" "ais Language", "Fr");
+    auto damaged = LanguageBlock("Fran\xC3\xA7"
+                                 "ais Language",
+                                 "Fr");
     damaged[2] = "twelve";
-    auto cut = LanguageBlock("Fran\xC3\xA7" "ais Language", "Fr");
+    auto cut = LanguageBlock("Fran\xC3\xA7"
+                             "ais Language",
+                             "Fr");
     cut.resize(200);
     for (const auto& block : {damaged, cut}) {
         SCOPED_TRACE(block.size());
@@ -139,7 +149,9 @@ TEST_F(LanguagesTest, ADamagedBlockGoesBackToEnglish) {
 }
 
 TEST_F(LanguagesTest, AFileThatIsGoneAtTheChoiceGoesBackToEnglish) {
-    PutFile(Block("English Language", "En") + Block("Fran\xC3\xA7" "ais Language", "Fr"));
+    PutFile(Block("English Language", "En") + Block("Fran\xC3\xA7"
+                                                    "ais Language",
+                                                    "Fr"));
     int index = 0;
     languages_.GetLanguage(index);
     (void)files_.Remove("/k/Lan.dat");

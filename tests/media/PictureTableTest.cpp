@@ -27,7 +27,8 @@ TEST(PictureTableTest, MonthsTakeThePictureOfTheirName) {
     const Row rows[] = {
         {"nothing", {}, ""},
         {"a bitmap", {"Images/January.bmp"}, "/k/Images/January.bmp"},
-        {"the first by name", {"Images/January.jpg", "Images/January.gif"},
+        {"the first by name",
+         {"Images/January.jpg", "Images/January.gif"},
          "/k/Images/January.gif"},
         {"a daily picture is not the month's", {"Images/January15.jpg"}, ""},
         {"a longer name", {"Images/January at home.jpg", "Images/Januaryjpg"}, ""},
@@ -42,8 +43,9 @@ TEST(PictureTableTest, MonthsTakeThePictureOfTheirName) {
 }
 
 TEST(PictureTableTest, EveryMonthHasItsOwnPictureAndText) {
-    const char* const names[] = {"January", "February", "March",     "April",   "May",      "June",
-                                 "July",    "August",   "September", "October", "November", "December"};
+    const char* const names[] = {"January",   "February", "March",    "April",
+                                 "May",       "June",     "July",     "August",
+                                 "September", "October",  "November", "December"};
     std::vector<std::string> files;
     PictureTable expected;
     for (std::size_t month = 0; month < 12; ++month) {

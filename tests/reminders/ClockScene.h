@@ -126,8 +126,8 @@ struct ClockScene : DiaryScene {
     RecordingWindows Windows;
     std::string Folder = kFolder;
     ReminderReview Review{{Store, Dates, Texts, Settings, Speech, Phone, Mail, Media, Loop, Bell}};
-    ClockTick Tick{{Clock, Store, Dates, Texts, Settings, Folder, Review, Speech, Media, Bell,
-                    Windows}};
+    ClockTick Tick{
+        {Clock, Store, Dates, Texts, Settings, Folder, Review, Speech, Media, Bell, Windows}};
 
     ClockScene() {
         Settings.ChimeInterval = "Never";

@@ -63,9 +63,9 @@ TEST(SettingsFileTest, ThreeChoicesShareLineTwentyTwo) {
         std::int16_t FullScreen;
         const char* Line;
     };
-    const Row rows[] = {{0, 0, 0, " 0 "},  {1, 0, 0, " 1 "},  {0, 1, 0, " 4 "}, {1, 1, 0, " 5 "},
-                        {0, 0, 1, " 16 "}, {1, 0, 1, " 17 "}, {0, 1, 1, " 20 "}, {1, 1, 1, " 21 "},
-                        {3, 1, 1, " 23 "}};
+    const Row rows[] = {{0, 0, 0, " 0 "},  {1, 0, 0, " 1 "},  {0, 1, 0, " 4 "},
+                        {1, 1, 0, " 5 "},  {0, 0, 1, " 16 "}, {1, 0, 1, " 17 "},
+                        {0, 1, 1, " 20 "}, {1, 1, 1, " 21 "}, {3, 1, 1, " 23 "}};
     for (const Row& row : rows) {
         SCOPED_TRACE(row.Line);
         auto lines = WholeFileLines();
@@ -122,11 +122,11 @@ TEST(SettingsFileTest, AWrongLineIsNamedAndEndsTheReading) {
         const char* Text;
     };
     const Row rows[] = {
-        {2, "this year"},   {2, ""},      {2, "32768"},     {2, "2026.5"},     {3, "256"},
-        {4, "-1 "},         {17, "1000"}, {19, "True"},     {22, "-1 "},       {22, "65536"},
-        {29, "50%"},        {33, "-1 "},  {40, "big"},      {40, "nan"},       {40, "inf"},
-        {40, "-1 "},        {43, "-1 "},  {43, "16777216"}, {43, "&H00FFFF"},  {70, " 3 "},
-        {70, "-1 "},        {70, ""},     {70, "Monday"},
+        {2, "this year"}, {2, ""},      {2, "32768"},     {2, "2026.5"},    {3, "256"},
+        {4, "-1 "},       {17, "1000"}, {19, "True"},     {22, "-1 "},      {22, "65536"},
+        {29, "50%"},      {33, "-1 "},  {40, "big"},      {40, "nan"},      {40, "inf"},
+        {40, "-1 "},      {43, "-1 "},  {43, "16777216"}, {43, "&H00FFFF"}, {70, " 3 "},
+        {70, "-1 "},      {70, ""},     {70, "Monday"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::to_string(row.Line) + ": " + row.Text);
@@ -192,9 +192,23 @@ TEST(SettingsFileTest, RandomRecordsComeBackAsTheyWere) {
         return static_cast<std::int16_t>(std::uniform_int_distribution<int>(low, high)(random));
     };
     const auto text = [&] {
-        static const char* const kPieces[] = {"a", "Z", "9", "'", "\"", ".", ":", "\\", "/", "#",
-                                              "\t", "\xC3\xA9", "\xCE\xB2", "\xE2\x82\xAC",
-                                              "\xF0\x9F\x98\x80", " x", "x "};
+        static const char* const kPieces[] = {"a",
+                                              "Z",
+                                              "9",
+                                              "'",
+                                              "\"",
+                                              ".",
+                                              ":",
+                                              "\\",
+                                              "/",
+                                              "#",
+                                              "\t",
+                                              "\xC3\xA9",
+                                              "\xCE\xB2",
+                                              "\xE2\x82\xAC",
+                                              "\xF0\x9F\x98\x80",
+                                              " x",
+                                              "x "};
         std::string made;
         for (int length = number(0, 30); length > 0; --length) {
             made += kPieces[static_cast<std::size_t>(number(0, std::size(kPieces) - 1))];

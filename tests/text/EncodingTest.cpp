@@ -85,7 +85,10 @@ TEST(EncodingTest, OnlyWellFormedBytesAreUtf8) {
 }
 
 TEST(EncodingTest, Windows1252HasAMeaningForEveryByte) {
-    EXPECT_EQ(Utf8FromWindows1252("Fran\xE7" "ais"), "Fran\xC3\xA7" "ais");
+    EXPECT_EQ(Utf8FromWindows1252("Fran\xE7"
+                                  "ais"),
+              "Fran\xC3\xA7"
+              "ais");
     EXPECT_EQ(Utf8FromWindows1252("\x80\x93\x94\x99\x9F"),
               "\xE2\x82\xAC\xE2\x80\x9C\xE2\x80\x9D\xE2\x84\xA2\xC5\xB8");
     EXPECT_EQ(Utf8FromWindows1252("\x81\x8D\x8F\x90\x9D"),

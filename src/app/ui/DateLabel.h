@@ -8,8 +8,8 @@
 namespace kestrova {
 
 // One date of the month grid: its number in the colour of its role, a dot under it when the day has
-// an event (or, where there is room, the event's message), a ring when it is today, a frame when the
-// keyboard stands on it.
+// an event (or, where there is room, the event's message), a ring when it is today, a frame when
+// the keyboard stands on it.
 class DateLabel : public QLabel {
 public:
     explicit DateLabel(QWidget* parent);

@@ -29,13 +29,15 @@ namespace kestrova {
 
 namespace {
 
-constexpr double kBesideRatio = 1.15;   // a window wider than this has the picture beside the grid
-constexpr double kCardShare = 0.40;     // of the window's width, at most, for the grid beside it
+constexpr double kBesideRatio = 1.15; // a window wider than this has the picture beside the grid
+constexpr double kCardShare = 0.40;   // of the window's width, at most, for the grid beside it
 constexpr double kPictureShape = 4.0 / 3.0; // of the pictures that ship
-constexpr int kCardWidth = 340;         // at least
+constexpr int kCardWidth = 340;             // at least
 constexpr int kMinutesUntilReturn = 7;
 
-QColor ToColour(const Colour& colour) { return {colour.Red, colour.Green, colour.Blue}; }
+QColor ToColour(const Colour& colour) {
+    return {colour.Red, colour.Green, colour.Blue};
+}
 
 } // namespace
 
@@ -80,25 +82,24 @@ void FormCal::MarkDates() {
     };
     for (int day = 1; day <= NofDays(dates.PageYear, dates.PageMonth); ++day) {
         DateLabel* const label = LabDates[static_cast<std::size_t>(day - 1)];
-        const auto mark = year ? DayMark(rooms_.Store.Table(), {day, dates.PageMonth, *year})
-                               : std::nullopt;
+        const auto mark =
+            year ? DayMark(rooms_.Store.Table(), {day, dates.PageMonth, *year}) : std::nullopt;
         const bool today = dates.ShowsToday() && day == dates.TodayDay;
         const ColourRole role =
             today ? ColourRole::Today : (mark ? ColourRole::Event : ColourRole::Text);
         const QString tip = ToQt(mark.value_or(std::string()));
         label->SetLook({colour(role), tip, today, day == dates.PageDay});
         label->setToolTip(PlainTip(tip));
-        label->setAccessibleName(ToQt(DayHeading(
-            rooms_.Texts, {dates.PageYear, dates.PageMonth, day})).simplified());
+        label->setAccessibleName(
+            ToQt(DayHeading(rooms_.Texts, {dates.PageYear, dates.PageMonth, day})).simplified());
         label->setAccessibleDescription(tip);
     }
 }
 
 void FormCal::SetTitle() {
     const Selection& dates = rooms_.Dates;
-    LabCurMth->setText(
-        ToQt(rooms_.Texts.MonthNames[static_cast<std::size_t>(dates.PageMonth)] + "  " +
-             std::to_string(dates.PageYear)));
+    LabCurMth->setText(ToQt(rooms_.Texts.MonthNames[static_cast<std::size_t>(dates.PageMonth)] +
+                            "  " + std::to_string(dates.PageYear)));
     card_->setAccessibleName(LabCurMth->text().simplified());
     QPalette colours = card_->palette();
     colours.setColor(QPalette::Window, ToColour(rooms_.Settings.ColourOf(ColourRole::Background)));
@@ -184,8 +185,8 @@ void FormCal::showEvent(QShowEvent* event) {
 
 void FormCal::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    const bool back = event->type() == QEvent::WindowStateChange ||
-                      event->type() == QEvent::ActivationChange;
+    const bool back =
+        event->type() == QEvent::WindowStateChange || event->type() == QEvent::ActivationChange;
     if (back && windowReady_ && isVisible() && !isMinimized()) {
         Redraw(kSameMonth);
     }
@@ -209,7 +210,9 @@ void FormCal::closeEvent(QCloseEvent* event) {
     hooks_.Quit();
 }
 
-void FormCal::MNU_Exit_Click() { close(); }
+void FormCal::MNU_Exit_Click() {
+    close();
+}
 
 bool FormCal::HandleMoveKey(const QKeyEvent& event) {
     Selection& dates = rooms_.Dates;
@@ -263,13 +266,17 @@ void FormCal::DoMNUDays(int month) {
     }
 }
 
-void FormCal::LabYrAdv_Click() { AfterMove(StepYear(rooms_.Dates, 1)); }
+void FormCal::LabYrAdv_Click() {
+    AfterMove(StepYear(rooms_.Dates, 1));
+}
 
-void FormCal::LabYrRtd_Click() { AfterMove(StepYear(rooms_.Dates, -1)); }
+void FormCal::LabYrRtd_Click() {
+    AfterMove(StepYear(rooms_.Dates, -1));
+}
 
 void FormCal::LabCurMth_DblClick() {
-    const auto year = AskYear(rooms_.Boxes, rooms_.Texts.Text(texts::kProgramTitle),
-                              rooms_.Dates.BaseYear);
+    const auto year =
+        AskYear(rooms_.Boxes, rooms_.Texts.Text(texts::kProgramTitle), rooms_.Dates.BaseYear);
     if (year) {
         ShowYear(rooms_.Dates, *year);
         hooks_.SetReturnCountdown(0);

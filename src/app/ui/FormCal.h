@@ -50,9 +50,9 @@ public:
     // What the window asks of the program around it.
     struct Hooks {
         std::function<void(int day)> OpenDiary;
-        std::function<void()> SettingsChanged;    // to be kept
+        std::function<void()> SettingsChanged; // to be kept
         std::function<void(int index)> ChangeLanguage;
-        std::function<void()> ReloadLanguage;     // day names have other places
+        std::function<void()> ReloadLanguage; // day names have other places
         std::function<void()> FirstDrawn;
         std::function<void(int minutes)> SetReturnCountdown;
         std::function<void()> Quit;

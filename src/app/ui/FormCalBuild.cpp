@@ -26,7 +26,9 @@ namespace {
 constexpr QSize kFirstSize{1200, 664};
 constexpr QSize kSmallestSize{640, 480};
 
-QString ToQt(ProgramText text) { return kestrova::ToQt(TextOf(text)); }
+QString ToQt(ProgramText text) {
+    return kestrova::ToQt(TextOf(text));
+}
 
 // The sheet behind the dates, in the background colour that the user has chosen.
 class Card : public QWidget {
@@ -181,8 +183,9 @@ void FormCal::BuildMenus() {
     BuildFileMenu();
     BuildMonthMenu();
     BuildChoiceMenus();
-    AddAction(MNU_Help, QStringLiteral("MNU_Manual"), [this] { LabHelp_Click(); })
-        ->setShortcut(QKeySequence::HelpContents);
+    AddAction(MNU_Help, QStringLiteral("MNU_Manual"), [this] {
+        LabHelp_Click();
+    })->setShortcut(QKeySequence::HelpContents);
     AddAction(MNU_Help, QStringLiteral("MNU_About"), [this] { MNU_About_Click(); });
 }
 
@@ -192,8 +195,9 @@ void FormCal::BuildFileMenu() {
     MNU_Repeat = AddAction(MNU_File, QStringLiteral("MNU_Repeat"), [this] { MNU_Repeat_Click(); });
     MNU_Repeat->setCheckable(true);
     MNU_File->addSeparator();
-    AddAction(MNU_File, QStringLiteral("MNU_Exit"), [this] { MNU_Exit_Click(); })
-        ->setShortcut(QKeySequence::Quit);
+    AddAction(MNU_File, QStringLiteral("MNU_Exit"), [this] {
+        MNU_Exit_Click();
+    })->setShortcut(QKeySequence::Quit);
 }
 
 void FormCal::BuildMonthMenu() {
@@ -208,11 +212,12 @@ void FormCal::BuildMonthMenu() {
               [this] { AfterMove(StepMonth(rooms_.Dates, -1)); });
     AddAction(MNU_Month, QStringLiteral("MNU_Next"),
               [this] { AfterMove(StepMonth(rooms_.Dates, 1)); });
-    AddAction(MNU_Month, QStringLiteral("MNU_Year"), [this] { LabCurMth_DblClick(); })
-        ->setShortcut(Qt::CTRL | Qt::Key_Y);
+    AddAction(MNU_Month, QStringLiteral("MNU_Year"), [this] {
+        LabCurMth_DblClick();
+    })->setShortcut(Qt::CTRL | Qt::Key_Y);
     for (int i = 0; i < kMaxDays; ++i) {
-        QAction* const day = AddAction(MNU_Date, ArrayName("MNU_Day", i),
-                                       [this, i] { hooks_.OpenDiary(i + 1); });
+        QAction* const day =
+            AddAction(MNU_Date, ArrayName("MNU_Day", i), [this, i] { hooks_.OpenDiary(i + 1); });
         day->setText(QString::number(i + 1));
         MNU_Day[static_cast<std::size_t>(i)] = day;
     }
@@ -231,8 +236,7 @@ void FormCal::BuildChoiceMenus() {
         QAction* const action =
             AddAction(MNU_Language, ArrayName("MNU_Lan", i), [this, i] { MNU_Lan_Click(i); });
         action->setCheckable(true);
-        action->setText(
-            kestrova::ToQt(FixedLanguages()[static_cast<std::size_t>(i)].MenuCaption));
+        action->setText(kestrova::ToQt(FixedLanguages()[static_cast<std::size_t>(i)].MenuCaption));
         MNU_Lan[static_cast<std::size_t>(i)] = action;
     }
 }
@@ -252,11 +256,15 @@ void FormCal::LoadCaptions() {
         ProgramText Text;
     };
     constexpr Entry kEntries[] = {
-        {"MNU_Full", ProgramText::MenuFullScreen},  {"MNU_Repeat", ProgramText::MenuRepeatMode},
-        {"MNU_Exit", ProgramText::MenuExit},        {"MNU_Today", ProgramText::MenuThisMonth},
+        {"MNU_Full", ProgramText::MenuFullScreen},
+        {"MNU_Repeat", ProgramText::MenuRepeatMode},
+        {"MNU_Exit", ProgramText::MenuExit},
+        {"MNU_Today", ProgramText::MenuThisMonth},
         {"MNU_Previous", ProgramText::MenuPreviousMonth},
-        {"MNU_Next", ProgramText::MenuNextMonth},   {"MNU_Year", ProgramText::MenuYear},
-        {"MNU_Manual", ProgramText::MenuManual},    {"MNU_About", ProgramText::MenuAbout},
+        {"MNU_Next", ProgramText::MenuNextMonth},
+        {"MNU_Year", ProgramText::MenuYear},
+        {"MNU_Manual", ProgramText::MenuManual},
+        {"MNU_About", ProgramText::MenuAbout},
     };
     for (const Entry& entry : kEntries) {
         findChild<QAction*>(QLatin1String(entry.Name))->setText(ToQt(entry.Text));

@@ -16,7 +16,7 @@ namespace kestrova {
 
 namespace {
 
-constexpr int kReloadPause = 200;   // milliseconds after the last resize
+constexpr int kReloadPause = 200;     // milliseconds after the last resize
 constexpr double kMostStretch = 1.12; // beyond that a picture that fills its area is cut instead
 
 // Reads a picture no larger than it will be shown, which for photographs saves most of the work.
@@ -66,17 +66,17 @@ void PictureBox::Load() {
     }
     const quint64 number = ++wanted_;
     const QSize area = size() * devicePixelRatioF();
-    QThreadPool::globalInstance()->start([box = QPointer<PictureBox>(this), path = path_, area,
-                                          number] {
-        QImage image = ReadPicture(path, area);
-        // Back on the window's thread; a box that has gone meanwhile is not called.
-        QMetaObject::invokeMethod(qApp, [box, image = std::move(image), number] {
-            if (box && box->wanted_ == number && !image.isNull()) {
-                box->image_ = image;
-                box->update();
-            }
+    QThreadPool::globalInstance()->start(
+        [box = QPointer<PictureBox>(this), path = path_, area, number] {
+            QImage image = ReadPicture(path, area);
+            // Back on the window's thread; a box that has gone meanwhile is not called.
+            QMetaObject::invokeMethod(qApp, [box, image = std::move(image), number] {
+                if (box && box->wanted_ == number && !image.isNull()) {
+                    box->image_ = image;
+                    box->update();
+                }
+            });
         });
-    });
 }
 
 QRectF PictureBox::Target() const {
@@ -96,8 +96,7 @@ QRectF PictureBox::Source(const QRectF& target) const {
     if (target.isEmpty() || source.isEmpty()) {
         return source;
     }
-    const double stretch =
-        (target.width() / target.height()) / (source.width() / source.height());
+    const double stretch = (target.width() / target.height()) / (source.width() / source.height());
     const QPointF centre = source.center();
     if (stretch > kMostStretch) {
         source.setHeight(source.height() * kMostStretch / stretch);

@@ -18,11 +18,11 @@ constexpr int kTickMilliseconds = 500;
 } // namespace
 
 Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& link)
-    : dataFolder_(std::move(dataFolder)), mediaFile_(std::move(mediaFile)), link_(link), texts_(MsgDefaults()),
-      settings_(FirstSettings(texts_)), languages_(files_, dataFolder_ + "Lan.dat", texts_),
+    : dataFolder_(std::move(dataFolder)), mediaFile_(std::move(mediaFile)), link_(link),
+      texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
+      languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
-      diaryFiles_(files_, clock_),
-      store_(diaryFiles_, dialogs_, texts_, [this] { End(); }),
+      diaryFiles_(files_, clock_), store_(diaryFiles_, dialogs_, texts_, [this] { End(); }),
       yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
       editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
       review_({store_, dates_, texts_, settings_, speech_, phone_, mail_, media_, loop_, beeper_}),
@@ -34,8 +34,7 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
                 [this] { (void)settingsStore_.SaveSettings(settings_); },
                 [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
                 [this] { FirstDrawn(); },
-                [this](int minutes) { tick_.SetReturnCountdown(minutes); },
-                [this] { End(); }}),
+                [this](int minutes) { tick_.SetReturnCountdown(minutes); }, [this] { End(); }}),
       diary_(&formCal_, {dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
              [this] { formCal_.Redraw(FormCal::kSameMonth); }),
       screenReminder_(texts_, [this] { tick_.ClearReminders(); }) {
@@ -44,7 +43,9 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
     FillStartUp();
 }
 
-Program::~Program() { Timer1.stop(); }
+Program::~Program() {
+    Timer1.stop();
+}
 
 int Program::Run() {
     startUp_.Run([this] { return !ended_; });
@@ -208,7 +209,8 @@ void Program::OpenDiary(int day) {
 }
 
 void Program::RunCheck_Change(std::string_view text) {
-    // Each poke is an event of its own here, also one that comes before a tick has emptied the item.
+    // Each poke is an event of its own here, also one that comes before a tick has emptied the
+    // item.
     runCheck_ = text;
     if (text == kInstancePoke) {
         formCal_.ShowNormal();
@@ -242,7 +244,11 @@ void Program::ReturnToToday() {
 
 // No window to ask in yet: the event editor does not come here while the modem is off and the mail
 // does not work.
-bool Program::AskPhoneNumbers(ReminderExtra& /*extra*/) { return false; }
-bool Program::AskMailAddress(ReminderExtra& /*extra*/) { return false; }
+bool Program::AskPhoneNumbers(ReminderExtra& /*extra*/) {
+    return false;
+}
+bool Program::AskMailAddress(ReminderExtra& /*extra*/) {
+    return false;
+}
 
 } // namespace kestrova

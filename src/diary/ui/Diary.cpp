@@ -109,8 +109,8 @@ void Diary::DrawMainPage() {
 
     const auto year = rooms_.Dates.PageYearIndex();
     const DayPlace day{rooms_.Dates.PageDay, rooms_.Dates.PageMonth, year.value_or(0)};
-    const auto rows = year ? DayRows(rooms_.Store.Table(), day)
-                           : std::array<DayRow, kEventsPerDay>{};
+    const auto rows =
+        year ? DayRows(rooms_.Store.Table(), day) : std::array<DayRow, kEventsPerDay>{};
     for (int i = 1; i <= kEventsPerDay; ++i) {
         const DayRow& row = rows[static_cast<std::size_t>(i - 1)];
         ShowRow(i, ToQt(row.Time), ToQt(row.Message), ToQt(row.Repeat), ToQt(row.Reminder));
@@ -269,11 +269,11 @@ void Diary::MNU_Undo_Click() {
 // been typed is not thrown away: it is saved, or the editor stays.
 void Diary::reject() {
     if (IsEditing() && IsDraftChanged()) {
-        const bool save = rooms_.Boxes.Ask(
-            {rooms_.Texts.Text(texts::kDiaryTitle), std::string(TextOf(ProgramText::SaveEdit)),
-             DialogIcon::Question},
-            {std::string(TextOf(ProgramText::KeepEdit)),
-             std::string(TextOf(ProgramText::GoOnEditing))});
+        const bool save =
+            rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kDiaryTitle),
+                              std::string(TextOf(ProgramText::SaveEdit)), DialogIcon::Question},
+                             {std::string(TextOf(ProgramText::KeepEdit)),
+                              std::string(TextOf(ProgramText::GoOnEditing))});
         if (save) {
             ComDataAcpt_Click();
         }
@@ -318,7 +318,8 @@ bool Diary::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::FocusIn && (watched == TextTme || watched == TextTmm)) {
         // After the click that brought the focus, which would take the selection away.
-        QTimer::singleShot(0, watched, [watched] { qobject_cast<QLineEdit*>(watched)->selectAll(); });
+        QTimer::singleShot(0, watched,
+                           [watched] { qobject_cast<QLineEdit*>(watched)->selectAll(); });
     }
     if (event->type() == QEvent::FocusIn) {
         for (int row = 0; row <= kEventsPerDay; ++row) {

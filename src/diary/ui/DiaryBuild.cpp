@@ -208,7 +208,9 @@ void Diary::BuildMenus() {
     });
 }
 
-int Diary::RowTop(int row) const { return Pixels(kRowsTop + row * kRowHeight); }
+int Diary::RowTop(int row) const {
+    return Pixels(kRowsTop + row * kRowHeight);
+}
 
 void Diary::PlaceControls() {
     const int width = Twips(page_->width());

@@ -275,8 +275,8 @@ std::vector<std::string> PosixFileStore::List(const std::string& folder) const {
 void PosixFileStore::RemoveLeftovers(const std::string& folder) {
     constexpr std::size_t kTail = kTemporaryMark.size() + 6;
     for (const std::string& name : List(folder)) {
-        if (name.size() > kTail && name.compare(name.size() - kTail, kTemporaryMark.size(),
-                                                kTemporaryMark) == 0) {
+        if (name.size() > kTail &&
+            name.compare(name.size() - kTail, kTemporaryMark.size(), kTemporaryMark) == 0) {
             ::unlink((folder + name).c_str());
         }
     }

@@ -12,8 +12,12 @@ WallTime SystemClock::Now() const {
     ::tzset();
     std::tm local{};
     ::localtime_r(&now, &local);
-    return {local.tm_year + kFirstYear, local.tm_mon,  local.tm_mday,
-            local.tm_hour,              local.tm_min, local.tm_sec};
+    return {local.tm_year + kFirstYear,
+            local.tm_mon,
+            local.tm_mday,
+            local.tm_hour,
+            local.tm_min,
+            local.tm_sec};
 }
 
 } // namespace kestrova

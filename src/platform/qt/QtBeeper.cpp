@@ -5,6 +5,8 @@
 
 namespace kestrova {
 
-void QtBeeper::Beep() { QApplication::beep(); }
+void QtBeeper::Beep() {
+    QApplication::beep();
+}
 
 } // namespace kestrova

@@ -16,8 +16,8 @@ namespace kestrova {
 
 namespace {
 
-constexpr int kPokeWait = 300;   // milliseconds for one attempt to reach the running program
-constexpr int kJoinWait = 5'000; // and for all of them
+constexpr int kPokeWait = 300;     // milliseconds for one attempt to reach the running program
+constexpr int kJoinWait = 5'000;   // and for all of them
 constexpr qint64 kPokeLimit = 256; // bytes; no text of the conversation is longer
 
 // A folder that belongs to this user alone; empty when there is none to be had.
@@ -64,7 +64,9 @@ QtInstanceLink::QtInstanceLink(std::string folder)
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Receive(); });
 }
 
-QtInstanceLink::~QtInstanceLink() { server_.close(); }
+QtInstanceLink::~QtInstanceLink() {
+    server_.close();
+}
 
 InstanceRole QtInstanceLink::Join() {
     if (folder_.isEmpty()) {

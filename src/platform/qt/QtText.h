@@ -14,6 +14,8 @@ namespace kestrova {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-[[nodiscard]] inline std::string FromQt(const QString& text) { return text.toStdString(); }
+[[nodiscard]] inline std::string FromQt(const QString& text) {
+    return text.toStdString();
+}
 
 } // namespace kestrova

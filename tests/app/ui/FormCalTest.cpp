@@ -61,8 +61,7 @@ struct MonthScene : DiaryScene {
     }
 
     [[nodiscard]] DateLabel* Date(int day) const {
-        return static_cast<DateLabel*>(
-            Find<QLabel>(QStringLiteral("LabDates(%1)").arg(day - 1)));
+        return static_cast<DateLabel*>(Find<QLabel>(QStringLiteral("LabDates(%1)").arg(day - 1)));
     }
 
     [[nodiscard]] std::string Title() const {
@@ -111,8 +110,7 @@ TEST(FormCalTest, DatesStandInTheirCellsForEveryWeekStart) {
         scene.Show();
         const auto* const heading = scene.Find<QLabel>(QStringLiteral("LabDays(0)"));
         EXPECT_EQ(FromQt(heading->accessibleName()), row.First);
-        const auto* const above =
-            scene.Find<QLabel>(QStringLiteral("LabDays(%1)").arg(row.Column));
+        const auto* const above = scene.Find<QLabel>(QStringLiteral("LabDays(%1)").arg(row.Column));
         EXPECT_NEAR(scene.Date(1)->geometry().center().x(), above->geometry().center().x(), 2);
         EXPECT_EQ(scene.Date(8)->x(), scene.Date(1)->x()) << "a week is a row";
         EXPECT_GT(scene.Date(8)->y(), scene.Date(1)->y());
@@ -130,9 +128,11 @@ TEST(FormCalTest, MonthsHaveTheirDays) {
         scene.Dates.PageYear = row.Year;
         scene.Window.Redraw(row.Month);
         EXPECT_EQ(scene.VisibleDates(), row.Days) << row.Year;
-        EXPECT_TRUE(scene.Find<QAction>(QStringLiteral("MNU_Day(%1)").arg(row.Days - 1))->isVisible());
+        EXPECT_TRUE(
+            scene.Find<QAction>(QStringLiteral("MNU_Day(%1)").arg(row.Days - 1))->isVisible());
         if (row.Days < kMaxDays) {
-            EXPECT_FALSE(scene.Find<QAction>(QStringLiteral("MNU_Day(%1)").arg(row.Days))->isVisible());
+            EXPECT_FALSE(
+                scene.Find<QAction>(QStringLiteral("MNU_Day(%1)").arg(row.Days))->isVisible());
         }
     }
 }
@@ -243,7 +243,8 @@ TEST(FormCalTest, ClosingHidesOrEnds) {
 }
 
 TEST(FormCalTest, TheWindowFitsScreensFromSmallToLarge) {
-    for (const QSize size : {QSize(800, 600), QSize(640, 900), QSize(1920, 1080), QSize(3840, 2160)}) {
+    for (const QSize size :
+         {QSize(800, 600), QSize(640, 900), QSize(1920, 1080), QSize(3840, 2160)}) {
         SCOPED_TRACE(std::to_string(size.width()) + " x " + std::to_string(size.height()));
         MonthScene scene;
         scene.Dates.PageMonth = 7; // six rows: 1 August 2026 is a Saturday

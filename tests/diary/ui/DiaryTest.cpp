@@ -36,7 +36,8 @@ struct PageScene : DiaryScene {
     NoDetails Details;
     EventEditor Editor{{Store, Dates, Texts, Settings, Boxes, Details}};
     int Changes = 0;
-    Diary Window{nullptr, {Dates, Texts, Settings, Store, Editor, Clock, Boxes}, [this] { ++Changes; }};
+    Diary Window{
+        nullptr, {Dates, Texts, Settings, Store, Editor, Clock, Boxes}, [this] { ++Changes; }};
 
     PageScene() {
         Window.Open();
@@ -53,9 +54,7 @@ struct PageScene : DiaryScene {
         return FromQt(Find<QLabel>(label)->text());
     }
 
-    void Click(const char* label) {
-        QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton);
-    }
+    void Click(const char* label) { QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton); }
 
     // Types a new event and accepts it by Enter.
     void Add(const char* hour, const char* msg) {

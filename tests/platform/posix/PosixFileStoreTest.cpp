@@ -32,10 +32,11 @@ protected:
     int AsReader(const std::function<int()>& work) const {
         ::chmod(folder_.Path().c_str(), 0555);
         const int answer = OtherProcess([&work] {
-            constexpr uid_t kNobody = 65534;
-            const bool strange = ::geteuid() != 0 || (::setgid(kNobody) == 0 && ::setuid(kNobody) == 0);
-            return strange ? work() : 99;
-        }).Wait();
+                               constexpr uid_t kNobody = 65534;
+                               const bool strange = ::geteuid() != 0 || (::setgid(kNobody) == 0 &&
+                                                                         ::setuid(kNobody) == 0);
+                               return strange ? work() : 99;
+                           }).Wait();
         ::chmod(folder_.Path().c_str(), 0755);
         return answer;
     }
@@ -101,7 +102,8 @@ TEST_F(PosixFileStoreTest, AFolderOrAPipeInPlaceOfAFileHangsNothing) {
         SCOPED_TRACE(name);
         const std::string path = folder_ / name;
         EXPECT_EQ(OtherProcess([&] { return files_.Read(path, kEnough) ? 0 : 1; }).Wait(), 1);
-        EXPECT_EQ(OtherProcess([&] { return files_.CopyToNew(path, path + "2") ? 0 : 1; }).Wait(), 1);
+        EXPECT_EQ(OtherProcess([&] { return files_.CopyToNew(path, path + "2") ? 0 : 1; }).Wait(),
+                  1);
         for (const LockKind kind : {LockKind::Shared, LockKind::Exclusive}) {
             EXPECT_NE(OtherProcess([&] {
                           return CodeOf(files_.Lock(path, kind, std::chrono::milliseconds(50)));
@@ -151,10 +153,11 @@ TEST_F(PosixFileStoreTest, AFullDiscLeavesTheOldFileWhole) {
     folder_.Write("Data.dat", "old bytes");
     const auto onFullDisc = [this](const std::function<int()>& work) {
         return OtherProcess([&work] {
-            const rlimit limit{1000, 1000};
-            std::signal(SIGXFSZ, SIG_IGN);
-            return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 ? work() : 99;
-        }).Wait();
+                   const rlimit limit{1000, 1000};
+                   std::signal(SIGXFSZ, SIG_IGN);
+                   return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 ? work() : 99;
+               })
+            .Wait();
     };
     const std::string large(5000, 'x');
     EXPECT_EQ(onFullDisc([&] { return CodeOf(files_.Replace(folder_ / "Data.dat", large)); }),
@@ -175,13 +178,14 @@ TEST_F(PosixFileStoreTest, WhatAKilledWriteLeavesBehindIsFoundAndRemoved) {
     folder_.Write("Data.dat.lock", "");
     folder_.Write("Mine.new", "x");
     folder_.Write("A new one.dat", "x");
-    const int ended = OtherProcess([this] {
-        const rlimit none{0, 0};
-        const rlimit limit{1000, 1000};
-        ::setrlimit(RLIMIT_CORE, &none);
-        ::setrlimit(RLIMIT_FSIZE, &limit); // the write that passes it ends the program
-        return files_.Replace(folder_ / "Data.dat", std::string(5000, 'x')) ? 0 : 1;
-    }).Wait();
+    const int ended =
+        OtherProcess([this] {
+            const rlimit none{0, 0};
+            const rlimit limit{1000, 1000};
+            ::setrlimit(RLIMIT_CORE, &none);
+            ::setrlimit(RLIMIT_FSIZE, &limit); // the write that passes it ends the program
+            return files_.Replace(folder_ / "Data.dat", std::string(5000, 'x')) ? 0 : 1;
+        }).Wait();
     EXPECT_EQ(ended, -1);
     EXPECT_EQ(folder_.Content("Data.dat"), "old bytes");
     EXPECT_EQ(Names().size(), 5U);
@@ -284,8 +288,8 @@ TEST_F(PosixLockTest, OnlyReadersShareAFileWithinOneProgram) {
             const auto held = other.Lock(path_, pair.Held, std::chrono::milliseconds(0));
             ASSERT_TRUE(held);
             EXPECT_EQ(CodeOf(Lock(pair.Wanted)), pair.Given ? kGood : kBusy);
-            EXPECT_TRUE(files_.Lock(folder_ / "Another.dat", pair.Wanted,
-                                    std::chrono::milliseconds(0)));
+            EXPECT_TRUE(
+                files_.Lock(folder_ / "Another.dat", pair.Wanted, std::chrono::milliseconds(0)));
         }
         EXPECT_TRUE(Lock(pair.Wanted, 0));
     }

@@ -54,8 +54,8 @@ TEST(SystemClockTest, TheTimeFollowsTheZoneWhileTheProgramRuns) {
         const char* Zone;
         long Ahead; // seconds before the time of Greenwich
     };
-    for (const Row row : {Row{"AAA0", 0}, Row{"BBB-14", 14 * 3600}, Row{"CCC11:30", -41400},
-                          Row{"AAA0", 0}}) {
+    for (const Row row :
+         {Row{"AAA0", 0}, Row{"BBB-14", 14 * 3600}, Row{"CCC11:30", -41400}, Row{"AAA0", 0}}) {
         SCOPED_TRACE(row.Zone);
         ZoneKeeper::Set(row.Zone);
         const std::time_t before = std::time(nullptr);
