@@ -6,8 +6,8 @@
 #include "calendar/MonthSheet.h"
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
+#include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
-#include "ui/ApplyCaptions.h"
 #include "ui/Look.h"
 #include "ui/Names.h"
 

@@ -5,9 +5,9 @@
 #include "diary/Repeats.h"
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
+#include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
 #include "text/Numbers.h"
-#include "ui/ApplyCaptions.h"
 #include "ui/Look.h"
 #include "ui/PlainTip.h"
 

@@ -2,8 +2,8 @@
 #include "diary/ui/ScreenReminder.h"
 
 #include "language/Texts.h"
+#include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
-#include "ui/ApplyCaptions.h"
 #include "ui/Names.h"
 #include "ui/PlainTip.h"
 #include "ui/Twips.h"

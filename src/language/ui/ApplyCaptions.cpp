@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/ApplyCaptions.h"
+#include "language/ui/ApplyCaptions.h"
 
 #include "language/Captions.h"
 #include "platform/qt/QtText.h"
