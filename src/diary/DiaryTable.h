@@ -61,9 +61,8 @@ private:
         assert(place.Slot >= 0 && place.Slot < kTableSlots && place.Day >= 0 &&
                place.Day < kStoredDays && place.Month >= 0 && place.Month < kTableMonths &&
                place.Year >= 0 && place.Year < kDiaryYears);
-        return static_cast<std::size_t>(
-            ((place.Year * kTableMonths + place.Month) * kStoredDays + place.Day) * kTableSlots +
-            place.Slot);
+        const int day = (place.Year * kTableMonths + place.Month) * kStoredDays + place.Day;
+        return static_cast<std::size_t>(day) * kTableSlots + static_cast<std::size_t>(place.Slot);
     }
 
     std::vector<DiaryEvent> events_;

@@ -58,6 +58,7 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
     shown_.clear();
     std::vector<DiaryEvent> events;
+    events.reserve(kStoredSlots);
     for (int slot = 0; slot < kStoredSlots; ++slot) {
         events.push_back(rooms_.Store.Table().At({slot, Today()}));
     }

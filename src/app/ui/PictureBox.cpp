@@ -49,8 +49,9 @@ void PictureBox::SetPicture(const QString& path) {
         return;
     }
     path_ = path;
-    // Before the window is laid out nobody knows how large the picture will be.
-    if (isVisible()) {
+    // Before the window is laid out nobody knows how large the picture will be; and reading one
+    // must not take the processor from the first sight of the month.
+    if (painted_) {
         Load();
     }
 }
@@ -108,6 +109,10 @@ QRectF PictureBox::Source(const QRectF& target) const {
 }
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    if (!painted_) {
+        painted_ = true;
+        reload_.start(0);
+    }
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     const QRectF target = Target();
@@ -124,7 +129,9 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
 
 void PictureBox::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    reload_.start(image_.isNull() ? 0 : kReloadPause);
+    if (painted_) {
+        reload_.start(kReloadPause);
+    }
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {

@@ -44,6 +44,7 @@ private:
     QImage image_;
     PictureFit fit_ = PictureFit::Fill;
     QTimer reload_;
+    bool painted_ = false;
     quint64 wanted_ = 0; // number of the newest load; older ones come too late
 };
 

@@ -34,10 +34,7 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
                 [this] { (void)settingsStore_.SaveSettings(settings_); },
                 [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
                 [this] { FirstDrawn(); },
-                [this](int minutes) { tick_.SetReturnCountdown(minutes); }, [this] { End(); }}),
-      diary_(&formCal_, {dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
-             [this] { formCal_.Redraw(FormCal::kSameMonth); }),
-      screenReminder_(texts_, [this] { tick_.ClearReminders(); }) {
+                [this](int minutes) { tick_.SetReturnCountdown(minutes); }, [this] { End(); }}) {
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
     FillStartUp();
@@ -104,8 +101,7 @@ void Program::FillDiarySteps() {
         if (now.Year != dates_.BaseYear) {
             return;
         }
-        DiaryTable trial = store_.Table();
-        if (PastRemindersOff(trial, texts_, now.Month, now.Day) == 0) {
+        if (PastRemindersOff(store_.Table(), texts_, now.Month, now.Day) == 0) {
             return;
         }
         (void)store_.Change([this, now](EventList& events) {
@@ -158,8 +154,12 @@ void Program::ReadTodayFromClock() {
 
 void Program::LoadCaptions() {
     formCal_.LoadCaptions();
-    diary_.LoadCaptions();
-    screenReminder_.LoadCaptions();
+    if (diary_) {
+        diary_->LoadCaptions();
+    }
+    if (screenReminder_) {
+        screenReminder_->LoadCaptions();
+    }
 }
 
 void Program::ReloadLanguage() {
@@ -203,9 +203,16 @@ void Program::OpenDiary(int day) {
                        DialogIcon::None});
         return;
     }
-    screenReminder_.hide();
-    screenReminder_.setEnabled(false);
-    diary_.Open();
+    if (screenReminder_) {
+        screenReminder_->hide();
+        screenReminder_->setEnabled(false);
+    }
+    if (!diary_) {
+        diary_ = std::make_unique<Diary>(
+            &formCal_, Diary::Rooms{dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
+            [this] { formCal_.Redraw(FormCal::kSameMonth); });
+    }
+    diary_->OpenPage();
 }
 
 void Program::RunCheck_Change(std::string_view text) {
@@ -219,13 +226,17 @@ void Program::RunCheck_Change(std::string_view text) {
 
 void Program::DiaryReloaded() {
     formCal_.Redraw(FormCal::kSameMonth);
-    if (diary_.isVisible() && !diary_.IsEditing()) {
-        diary_.DrawMainPage();
+    if (DayPageVisible() && !diary_->IsEditing()) {
+        diary_->DrawMainPage();
     }
 }
 
 void Program::ShowReminders(const std::vector<std::string>& lines) {
-    screenReminder_.ShowLines(lines);
+    if (!screenReminder_) {
+        screenReminder_ =
+            std::make_unique<ScreenReminder>(texts_, [this] { tick_.ClearReminders(); });
+    }
+    screenReminder_->ShowLines(lines);
 }
 
 void Program::TodayMoved(bool wasShown) {

@@ -62,7 +62,7 @@ private:
 
     // ClockWindows
     void EmptyRunCheck() override { runCheck_.clear(); }
-    [[nodiscard]] bool DayPageVisible() const override { return diary_.isVisible(); }
+    [[nodiscard]] bool DayPageVisible() const override { return diary_ && diary_->isVisible(); }
     void ShowMainWindow() override { formCal_.show(); }
     void DiaryReloaded() override;
     void DiaryFolderGone() override {}
@@ -113,8 +113,9 @@ private:
     ClockTick tick_;
 
     FormCal formCal_;
-    Diary diary_;
-    ScreenReminder screenReminder_;
+    // Made on first use, which start-up need not wait for.
+    std::unique_ptr<Diary> diary_;
+    std::unique_ptr<ScreenReminder> screenReminder_;
     QTimer Timer1;
     StartUp startUp_;
 };

@@ -43,7 +43,7 @@ void Fill(QComboBox& list, const std::vector<std::string>& items) {
 
 } // namespace
 
-void Diary::Open() {
+void Diary::OpenPage() {
     row_ = 0;
     DrawMainPage();
     const QRect area = screen()->availableGeometry();

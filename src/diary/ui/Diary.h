@@ -40,7 +40,7 @@ public:
     Diary(QWidget* parent, const Rooms& rooms, std::function<void()> changed);
 
     // Shows the page of the page date at the top left of the screen.
-    void Open();
+    void OpenPage();
 
     // Rebuilds the page from the table; an edit under way is given up.
     void DrawMainPage();

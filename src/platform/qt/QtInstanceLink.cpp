@@ -59,7 +59,7 @@ bool Poke(const QString& path) {
 
 } // namespace
 
-QtInstanceLink::QtInstanceLink(std::string folder)
+QtInstanceLink::QtInstanceLink(const std::string& folder)
     : folder_(folder.empty() ? RuntimeFolder() : PrivateFolder(ToQt(folder))) {
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Receive(); });
 }

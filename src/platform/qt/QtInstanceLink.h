@@ -16,7 +16,7 @@ namespace kestrova {
 class QtInstanceLink : public InstanceLink {
 public:
     // `folder` is empty for the user's own runtime folder.
-    explicit QtInstanceLink(std::string folder = {});
+    explicit QtInstanceLink(const std::string& folder = {});
     ~QtInstanceLink() override;
 
     InstanceRole Join() override;

@@ -40,7 +40,7 @@ struct PageScene : DiaryScene {
         nullptr, {Dates, Texts, Settings, Store, Editor, Clock, Boxes}, [this] { ++Changes; }};
 
     PageScene() {
-        Window.Open();
+        Window.OpenPage();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
     }
 
