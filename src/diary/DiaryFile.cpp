@@ -12,12 +12,15 @@ namespace kestrova {
 
 namespace {
 
-bool ReadText(LineReader& lines, std::string& text) {
+// Whether the whole file has been found to be UTF-8: looking once is quicker than line by line.
+enum class FileText { Utf8, Mixed };
+
+bool ReadText(LineReader& lines, FileText kind, std::string& text) {
     const auto line = lines.Next();
     if (!line) {
         return false;
     }
-    if (IsUtf8(*line)) {
+    if (kind == FileText::Utf8 || IsUtf8(*line)) {
         text.assign(*line);
     } else {
         text = Utf8FromWindows1252(*line);
@@ -32,12 +35,12 @@ bool ReadNumber(LineReader& lines, std::int16_t& number) {
     return value.has_value();
 }
 
-bool ReadEvent(LineReader& lines, DiaryEvent& event) {
+bool ReadEvent(LineReader& lines, FileText kind, DiaryEvent& event) {
     bool good = ReadNumber(lines, event.Hour) && ReadNumber(lines, event.Minute) &&
-                ReadText(lines, event.Msg) && ReadText(lines, event.Rpt) &&
-                ReadText(lines, event.Rmd) && ReadNumber(lines, event.Hide);
+                ReadText(lines, kind, event.Msg) && ReadText(lines, kind, event.Rpt) &&
+                ReadText(lines, kind, event.Rmd) && ReadNumber(lines, event.Hide);
     for (std::string& extra : event.Extra) {
-        good = good && ReadText(lines, extra);
+        good = good && ReadText(lines, kind, extra);
     }
     return good;
 }
@@ -118,9 +121,10 @@ private:
 
 Result<DiaryEnd> ReadDiary(std::string_view bytes, DiaryTable& table) {
     LineReader lines(bytes);
+    const FileText kind = IsUtf8(bytes) ? FileText::Utf8 : FileText::Mixed;
     bool good = true;
     EachStoredSlot(
-        [&](const SlotPlace& place) { good = good && ReadEvent(lines, table.At(place)); });
+        [&](const SlotPlace& place) { good = good && ReadEvent(lines, kind, table.At(place)); });
     if (!good) {
         return Error{ErrorCode::Damaged, "diary file"};
     }

@@ -28,7 +28,8 @@ bool IsNoteName(const std::string& name) {
     }
     const bool late = name[1] >= '2' && name[1] <= '8';
     const char letter = late ? 'a' : 'A';
-    const int day = late ? name[1] - 25 : name[1] - 'A';
+    const int code = static_cast<unsigned char>(name[1]);
+    const int day = late ? code - 25 : code - 'A';
     const SlotPlace place(name[0] - letter, day, name[2] - letter, name[3] - letter);
     return place.Slot >= 0 && place.Slot < kTableSlots && day >= 0 && day < kStoredDays &&
            place.Month >= 0 && place.Month < kTableMonths && place.Year >= 0 &&

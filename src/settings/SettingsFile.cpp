@@ -97,7 +97,14 @@ public:
         bytes_.append(" ").append(digits, end).append(" ").append(kLineEnd);
     }
 
-    std::string Take() { return std::move(bytes_); }
+    std::string Take() {
+        // A first text that begins with the mark would lose it to the reader, who takes it for the
+        // file's.
+        if (bytes_.starts_with(kByteOrderMark)) {
+            bytes_.insert(0, kByteOrderMark);
+        }
+        return std::move(bytes_);
+    }
 
 private:
     std::string bytes_;

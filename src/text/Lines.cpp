@@ -6,7 +6,6 @@
 namespace kestrova {
 
 LineReader::LineReader(std::string_view bytes) : rest_(bytes) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (rest_.starts_with(kByteOrderMark)) {
         rest_.remove_prefix(kByteOrderMark.size());
     }

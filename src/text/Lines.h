@@ -7,6 +7,9 @@
 
 namespace kestrova {
 
+// What some programs put before a UTF-8 text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 // The line end of every text file this program writes.
 inline constexpr std::string_view kLineEnd = "\r\n";
 

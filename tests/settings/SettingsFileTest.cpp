@@ -254,5 +254,13 @@ TEST(SettingsFileTest, RandomRecordsComeBackAsTheyWere) {
     }
 }
 
+TEST(SettingsFileTest, AByteOrderMarkInTheFirstTextComesBack) {
+    AppSettings settings;
+    settings.Reserved1 = "\xEF\xBB\xBFmarked";
+    AppSettings read;
+    ASSERT_TRUE(ReadSettings(WriteSettings(settings), read).Ok());
+    EXPECT_EQ(read.Reserved1, settings.Reserved1);
+}
+
 } // namespace
 } // namespace kestrova

@@ -341,7 +341,7 @@ void Diary::MarkRow(int row) {
 void Diary::MoveRow(int step) {
     int events = 0;
     while (events < kEventsPerDay &&
-           LabEvent[static_cast<std::size_t>(events + 1)]->focusPolicy() != Qt::NoFocus) {
+           LabEvent[static_cast<std::size_t>(events) + 1]->focusPolicy() != Qt::NoFocus) {
         ++events;
     }
     const int places = events + 1;
