@@ -13,7 +13,7 @@ constexpr std::string_view kExtension = ".txt";
 
 std::string GetFile(const SlotPlace& place) {
     const bool late = place.Day >= kFirstDigitDay;
-    const int letter = late ? 'a' : 'A';
+    const int letter = late ? int{'a'} : int{'A'};
     const int day = late ? place.Day + 25 : place.Day + 'A';
     std::string name;
     for (const int code : {place.Slot + letter, day, place.Month + letter, place.Year + letter}) {
