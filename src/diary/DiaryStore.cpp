@@ -75,6 +75,9 @@ Status DiaryStore::TryReformat(const std::string& folder) {
         stamp_ = loaded.Value().Stamp;
         return Done{};
     }
+    if (loaded.Failure().Code == ErrorCode::Busy) {
+        return loaded.Failure();
+    }
     if (files_.Stamp(folder)) {
         const Status kept = files_.MoveAside(folder, kDamagedMark);
         if (!kept) {
