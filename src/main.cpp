@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ui/DataFolder.h"
 #include "app/ui/Program.h"
+#include "platform/qt/DataFolder.h"
 #include "platform/qt/QtInstanceLink.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/SignalWatch.h"

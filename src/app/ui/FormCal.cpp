@@ -153,6 +153,9 @@ void FormCal::GetPicture() {
 
 void FormCal::ApplySettings() {
     Image1->SetFit(rooms_.Settings.KeepAspect != 0 ? PictureFit::KeepAspect : PictureFit::Fill);
+    // Without video these would be switches that switch nothing.
+    MNU_Full->setEnabled(rooms_.Media.VideoWorks());
+    MNU_Repeat->setEnabled(rooms_.Media.VideoWorks());
     MNU_Full->setChecked(rooms_.Settings.VideoFullScreen != 0);
     MNU_Repeat->setChecked(rooms_.Settings.VideoRepeat != 0);
 }

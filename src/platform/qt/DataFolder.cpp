@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ui/DataFolder.h"
+#include "platform/qt/DataFolder.h"
 
 #include "platform/qt/QtText.h"
 
