@@ -14,7 +14,7 @@ namespace kestrova {
 // quote that nothing closes ends with its line, so that one stray character cannot swallow a file.
 class FieldReader {
 public:
-    explicit FieldReader(std::string_view bytes) : lines_(bytes) {}
+    explicit FieldReader(std::string_view bytes) : begin_(bytes.data()), lines_(bytes) {}
 
     // The next field in UTF-8; nothing at the end of the file.
     std::optional<std::string> Next();
@@ -22,9 +22,15 @@ public:
     // Passes over so many fields; false when the file ended before.
     bool Skip(int count);
 
+    // How many bytes lie before what is read next.
+    [[nodiscard]] std::size_t Position() const {
+        return static_cast<std::size_t>((line_ ? line_->data() : lines_.Rest().data()) - begin_);
+    }
+
 private:
     std::optional<std::string_view> NextRaw();
 
+    const char* begin_;
     LineReader lines_;
     std::optional<std::string_view> line_; // what is left of the line being read
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/Kinds.h"
 
-#include "language/Texts.h"
+#include "language/ItemLists.h"
 
 #include <array>
 
@@ -14,10 +14,6 @@ constexpr std::array<std::string_view, 5> kOrdinalNames = {"1st ", "2nd ", "3rd 
 
 constexpr std::array kFixedKinds = {RepeatKind::Never, RepeatKind::Daily, RepeatKind::Weekly,
                                     RepeatKind::Monthly, RepeatKind::Annually};
-
-TextId Nth(TextId first, int n) {
-    return {first.Group, first.Entry + n};
-}
 
 std::optional<OrdinalWeekday> OrdinalWeekdayOf(const StringTable& table, std::string_view text) {
     for (int weekday = 1; weekday <= kDaysOfWeek; ++weekday) {
@@ -38,17 +34,12 @@ std::optional<OrdinalWeekday> OrdinalWeekdayOf(const StringTable& table, std::st
 } // namespace
 
 const std::string& ReminderCaption(const StringTable& table, ReminderKind kind) {
-    return table.Text(Nth(texts::kReminderKinds, static_cast<int>(kind)));
+    return table.Text(lists::kReminderKinds.Item(static_cast<int>(kind)));
 }
 
 std::optional<ReminderKind> ReminderKindOf(const StringTable& table, std::string_view text) {
-    for (int i = 0; i < kReminderKinds; ++i) {
-        const auto kind = static_cast<ReminderKind>(i);
-        if (text == ReminderCaption(table, kind)) {
-            return kind;
-        }
-    }
-    return std::nullopt;
+    const auto index = IndexOf(table, lists::kReminderKinds, text);
+    return index ? std::optional(static_cast<ReminderKind>(*index)) : std::nullopt;
 }
 
 const std::string& RepeatCaption(const StringTable& table, RepeatKind kind) {
@@ -58,7 +49,7 @@ const std::string& RepeatCaption(const StringTable& table, RepeatKind kind) {
             index = static_cast<int>(i);
         }
     }
-    return table.Text(Nth(texts::kRepeatKinds, index));
+    return table.Text(lists::kRepeatKinds.Item(index));
 }
 
 std::string OrdinalWeekdayCaption(const StringTable& table, const CalendarDate& date) {
@@ -68,10 +59,8 @@ std::string OrdinalWeekdayCaption(const StringTable& table, const CalendarDate& 
 }
 
 std::optional<Repeat> RepeatOf(const StringTable& table, std::string_view text) {
-    for (const RepeatKind kind : kFixedKinds) {
-        if (text == RepeatCaption(table, kind)) {
-            return Repeat{kind, {}};
-        }
+    if (const auto index = IndexOf(table, lists::kRepeatKinds, text)) {
+        return Repeat{kFixedKinds[static_cast<std::size_t>(*index)], {}};
     }
     if (const auto which = OrdinalWeekdayOf(table, text)) {
         return Repeat{RepeatKind::MonthlyByWeekday, *which};

@@ -17,15 +17,28 @@ namespace kestrova {
 inline constexpr std::string_view kHeadingEnd = "Language";
 inline constexpr int kFieldsAfterHeading = 341;
 
+// A longer text, in bytes, is none: its block cannot be read.
+inline constexpr std::size_t kLongestText = 2000;
+
 // Far beyond what eight languages, or eighty, take.
 inline constexpr std::size_t kLanguageFileLimit = std::size_t{16} << 20U;
+
+// A text as one field: within quotes when it holds a comma or begins with a quote, which a field
+// cannot otherwise (a quote in it becomes a typographic one); as it is in all other cases.
+[[nodiscard]] std::string AsField(std::string_view text);
 
 // The names of the whole blocks, as their headings have them: with the blank before "Language". A
 // block that the file's end cuts short is not among them.
 [[nodiscard]] std::vector<std::string> LanguageNames(std::string_view bytes);
 
-// The block with this number, counted from 0 over all headings. NotFound when the file has no such
-// block; Damaged when it ends early or a field cannot be converted.
+// The block with this number, counted from 0 over all headings. What a block leaves empty is
+// English, so that a translation under way can be used. NotFound when the file has no such block;
+// Damaged when it ends early or a field cannot be converted.
 [[nodiscard]] Result<StringTable> ReadLanguage(std::string_view bytes, int block);
+
+// The file with this language in it: in the place of the whole block of that name, else after the
+// whole blocks. No other byte is changed; a last block that is cut short goes on being the last.
+[[nodiscard]] std::string PutLanguage(std::string_view bytes, std::string_view name,
+                                      const StringTable& language);
 
 } // namespace kestrova

@@ -4,21 +4,9 @@
 #include "language/LanguageFile.h"
 #include "text/Numbers.h"
 
-namespace kestrova {
+#include <algorithm>
 
-const std::array<FixedLanguage, kFixedLanguages>& FixedLanguages() {
-    static constexpr std::array<FixedLanguage, kFixedLanguages> kList = {{
-        {"English", "&English"},
-        {"Français", "&Francais"},
-        {"Deutsch", "&Deutsch"},
-        {"Espanol", "E&spanol"},
-        {"Português", "&Portugues"},
-        {"Italiano", "&Italiano"},
-        {"Nederlands", "&Nederlands"},
-        {"Greek", "&Greek"},
-    }};
-    return kList;
-}
+namespace kestrova {
 
 void Languages::GetLanguage(int& languageIndex) {
     choices_ = {};
@@ -32,10 +20,8 @@ void Languages::GetLanguage(int& languageIndex) {
         return;
     }
     for (const std::string& name : choices_.Names) {
-        for (std::size_t i = 0; i < kFixedLanguages; ++i) {
-            if (Trim(name) == FixedLanguages()[i].Name) {
-                choices_.Enabled[i] = true;
-            }
+        if (const auto fixed = FixedLanguageOf(name)) {
+            choices_.Enabled[static_cast<std::size_t>(*fixed)] = true;
         }
     }
     LoadLanguage(bytes.Value(), languageIndex);
@@ -69,10 +55,24 @@ bool Languages::LoadLanguage(std::string_view bytes, int& languageIndex) {
 
 void Languages::Check(int languageIndex) {
     const auto index = static_cast<std::size_t>(languageIndex);
-    if (index < choices_.Names.size() && index < kFixedLanguages &&
-        Trim(choices_.Names[index]) == FixedLanguages()[index].Name) {
+    if (index < choices_.Names.size() && FixedLanguageOf(choices_.Names[index]) == languageIndex) {
         choices_.Checked = languageIndex;
     }
+}
+
+bool Languages::Has(std::string_view name) const {
+    const auto bytes = files_.Read(path_, kLanguageFileLimit);
+    const auto names = bytes ? LanguageNames(bytes.Value()) : std::vector<std::string>();
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& other) { return Trim(other) == Trim(name); });
+}
+
+Status Languages::Save(std::string_view name, const StringTable& language) {
+    const auto bytes = files_.Read(path_, kLanguageFileLimit);
+    if (!bytes && bytes.Failure().Code != ErrorCode::NotFound) {
+        return bytes.Failure();
+    }
+    return files_.Replace(path_, PutLanguage(bytes ? bytes.Value() : "", name, language));
 }
 
 } // namespace kestrova

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/FixedLanguages.h"
 #include "language/StringTable.h"
 #include "platform/FileStore.h"
 
@@ -11,15 +12,6 @@
 #include <vector>
 
 namespace kestrova {
-
-// A language of the fixed list: the name that block headings are compared with, and the caption of
-// its item in the language menu.
-struct FixedLanguage {
-    std::string_view Name;
-    std::string_view MenuCaption;
-};
-inline constexpr int kFixedLanguages = 8;
-[[nodiscard]] const std::array<FixedLanguage, kFixedLanguages>& FixedLanguages();
 
 // What the user may choose from, as the language file has it.
 struct LanguageChoices {
@@ -33,7 +25,7 @@ struct LanguageChoices {
 class Languages {
 public:
     // `path` is that of the language file; the table is written when a language is loaded.
-    Languages(const FileStore& files, std::string path, StringTable& table)
+    Languages(FileStore& files, std::string path, StringTable& table)
         : files_(files), path_(std::move(path)), table_(table) {}
 
     // Reads the choices and loads the block of this index, which is set to 0 when that block is
@@ -45,13 +37,20 @@ public:
     // whether there was such a block.
     bool ChangeLanguage(int& languageIndex);
 
+    // Whether the file has a language of this name, blanks around it ignored.
+    [[nodiscard]] bool Has(std::string_view name) const;
+
+    // Writes a language into the file: in the place of the block of that name, else as a new one
+    // after the others. A file that cannot be read is not replaced.
+    Status Save(std::string_view name, const StringTable& language);
+
     [[nodiscard]] const LanguageChoices& Choices() const { return choices_; }
 
 private:
     bool LoadLanguage(std::string_view bytes, int& languageIndex);
     void Check(int languageIndex);
 
-    const FileStore& files_;
+    FileStore& files_;
     std::string path_;
     StringTable& table_;
     LanguageChoices choices_;

@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/StringTable.h"
+
 #include <string>
 #include <string_view>
 
 namespace kestrova {
 
 // Texts that the 306 entries of a language block have no room for: the block's layout is fixed, and
-// language files that people have made must go on fitting. In menu captions "&" marks the access
-// key.
+// language files that people have made must go on fitting. They are built in, in every language of
+// the fixed list; a language that is not on it has the English ones. In menu captions "&" marks the
+// access key; "%1" is the place of a value.
 enum class ProgramText {
+    // the diary
     DiaryBusy,
     YearPrompt,
     DayFull,
@@ -21,6 +25,10 @@ enum class ProgramText {
     KeepTheYear,
     Retry,
     CloseProgram,
+    DiaryOutOfReach,
+    GoOn,
+
+    // menus
     MenuFile,
     MenuMonth,
     MenuWeekStart,
@@ -31,6 +39,7 @@ enum class ProgramText {
     MenuYear,
     MenuFullScreen,
     MenuRepeatMode,
+    MenuSettings,
     MenuManual,
     MenuAbout,
     MenuExit,
@@ -38,9 +47,13 @@ enum class ProgramText {
     MenuDeleteAll,
     MenuUndo,
     MenuNewEvent,
+    MenuAddNetUser,
+    MenuRemoveNetUser,
     MenuCloseDay,
     AboutText,
     NoHelp,
+
+    // the windows of the month and of the day
     PreviousYear,
     NextYear,
     EventHour,
@@ -51,12 +64,69 @@ enum class ProgramText {
     WaveFilter,
     ReminderService,
     SpokenAt,
+
+    // diaries of other users
+    MyDiary,
+    AddNetUser,
+    InputUserName,
+    NetUserRemoved,
+    NoDiaryThere,
+    NameTaken,
+    MyDiaryStays,
+    DiaryShown,
+
+    // notes
+    TalkToMe,
+    SpeechNotInstalled,
+    NoteIsNoText,
+    NoteTooLarge,
+    NoteWithoutEvent,
+    DiscardNote,
+    Discard,
+    HasNote,
+
+    // the settings window
+    SettingsTitle,
+    TestModem,
+    ModemFound,
+    SpeechSample,
+    LanguageLabel,
+    Red,
+    Green,
+    Blue,
+    ColourShown,
+    TextToSpeak,
+    UndoDefaults,
+    DesktopComment,
+    StartEntryFailed,
+    CopyKeptIn,
+
+    // the language editor
+    LanguageEditor,
+    LanguageName,
+    MonthsAndMenu,
+    DaysOfTheWeek,
+    TextsOfWindows,
+    EnglishText,
+    NameTheLanguage,
+    ReplaceLanguage,
+    Replace,
+    SameItems,
+    LanguageNotSaved,
+    LanguageUnsaved,
+
+    StartHidden,
+    StartHiddenTip,
+
     Count
 };
+inline constexpr std::size_t kProgramTexts = static_cast<std::size_t>(ProgramText::Count);
 
-[[nodiscard]] std::string_view TextOf(ProgramText text);
+// The text in the table's language.
+[[nodiscard]] std::string TextOf(const StringTable& table, ProgramText text);
 
 // The text with `value` in the place of its "%1".
-[[nodiscard]] std::string TextOf(ProgramText text, std::string_view value);
+[[nodiscard]] std::string TextOf(const StringTable& table, ProgramText text,
+                                 std::string_view value);
 
 } // namespace kestrova

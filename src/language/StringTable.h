@@ -50,6 +50,7 @@ struct StringTable {
     std::array<std::string, kDaysOfWeek> WeekdayNames; // Monday first, whatever the week start
     std::string LanguageFont;                          // empty: the desktop's own
     TitleFont Title;
+    int ProgramLanguage = 0; // which of the fixed list the program's own texts are in
 
     [[nodiscard]] const std::string& Text(TextId id) const {
         return Texts[static_cast<std::size_t>(id.Group)][static_cast<std::size_t>(id.Entry)];

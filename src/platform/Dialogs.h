@@ -21,6 +21,16 @@ struct AnswerCaptions {
     std::string No;
 };
 
+// A font as the user chooses it.
+struct FontChoice {
+    std::string Family;
+    float Size = 0; // points
+    bool Bold = false;
+    bool Italic = false;
+
+    bool operator==(const FontChoice&) const = default;
+};
+
 // The windows in which the program asks and tells. Each call returns when the user has answered;
 // events, the timer's included, go on meanwhile.
 class Dialogs {
@@ -40,6 +50,9 @@ public:
     // `filter` is "Caption|*.a;*.b". Nothing when the user cancels.
     virtual std::optional<std::string> OpenFile(const std::string& folder,
                                                 const std::string& filter) = 0;
+
+    // A font of this machine. Nothing when the user cancels.
+    virtual std::optional<FontChoice> ChooseFont(const FontChoice& offered) = 0;
 };
 
 } // namespace kestrova

@@ -1,41 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/ListChoices.h"
 
-#include "language/Texts.h"
+#include "language/ItemLists.h"
 
 namespace kestrova {
 
-namespace {
-
-constexpr int kChimeTypes = 3;
-constexpr int kChimeIntervals = 5;
-constexpr int kModemPorts = 5;
-
-const std::string& Item(const StringTable& table, TextId first, int index) {
-    return table.Text({first.Group, first.Entry + index});
-}
-
-std::optional<int> IndexOf(const StringTable& table, TextId first, int count,
-                           std::string_view text) {
-    for (int i = 0; i < count; ++i) {
-        if (text == Item(table, first, i)) {
-            return i;
-        }
-    }
-    return std::nullopt;
-}
-
-} // namespace
-
 std::optional<ChimeType> ChimeTypeOf(const AppSettings& settings, const StringTable& table) {
-    const auto index = IndexOf(table, texts::kChimeTypes, kChimeTypes, settings.ChimeType);
+    const auto index = IndexOf(table, lists::kChimeTypes, settings.ChimeType);
     return index ? std::optional(static_cast<ChimeType>(*index)) : std::nullopt;
 }
 
 std::optional<ChimeInterval> ChimeIntervalOf(const AppSettings& settings,
                                              const StringTable& table) {
-    const auto index =
-        IndexOf(table, texts::kChimeIntervals, kChimeIntervals, settings.ChimeInterval);
+    const auto index = IndexOf(table, lists::kChimeIntervals, settings.ChimeInterval);
     return index ? std::optional(static_cast<ChimeInterval>(*index)) : std::nullopt;
 }
 
@@ -44,14 +21,14 @@ bool HasModemPort(const AppSettings& settings) {
 }
 
 void TranslateChoices(AppSettings& settings, const StringTable& before, const StringTable& after) {
-    const auto translate = [&](std::string& text, TextId first, int count) {
-        if (const auto index = IndexOf(before, first, count, text)) {
-            text = Item(after, first, *index);
+    const auto translate = [&](std::string& text, const ItemList& list) {
+        if (const auto index = IndexOf(before, list, text)) {
+            text = after.Text(list.Item(*index));
         }
     };
-    translate(settings.ChimeType, texts::kChimeTypes, kChimeTypes);
-    translate(settings.ChimeInterval, texts::kChimeIntervals, kChimeIntervals);
-    translate(settings.ModemPort, texts::kModemPorts, kModemPorts);
+    translate(settings.ChimeType, lists::kChimeTypes);
+    translate(settings.ChimeInterval, lists::kChimeIntervals);
+    translate(settings.ModemPort, lists::kModemPorts);
 }
 
 } // namespace kestrova

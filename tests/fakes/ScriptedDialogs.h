@@ -20,6 +20,7 @@ public:
     std::deque<bool> Answers;
     std::deque<std::optional<std::string>> Inputs;
     std::deque<std::optional<std::string>> Files;
+    std::deque<std::optional<FontChoice>> Fonts;
     std::function<void()> WhileOpen; // called while a message is open
 
     void Show(const Message& message) override {
@@ -47,6 +48,10 @@ public:
                                         const std::string& filter) override {
         Prompts.push_back(filter);
         return Take(Files, std::optional<std::string>());
+    }
+
+    std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
+        return Take(Fonts, std::optional<FontChoice>());
     }
 
 private:

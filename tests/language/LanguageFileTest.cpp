@@ -3,6 +3,7 @@
 
 #include "language/LanguageBlock.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kestrova {
@@ -162,6 +163,107 @@ TEST(LanguageFileTest, TheTitleFontMustBeNumberAndTruths) {
         const auto read = ReadLanguage(FileOf(lines), 0);
         EXPECT_EQ(read.Ok(), row.Good);
         EXPECT_TRUE(row.Good || read.Failure().Code == ErrorCode::Damaged);
+    }
+}
+
+TEST(LanguageFileTest, WhatIsEmptyIsEnglish) {
+    Lines lines = LanguageBlock("Deutsch Language", "De");
+    for (const std::size_t line :
+         {std::size_t{5}, std::size_t{6}, std::size_t{29}, LineOfText(1, 2), LineOfText(3, 25)}) {
+        lines[line] = "  ";
+    }
+    const auto read = ReadLanguage(FileOf(lines), 0);
+    ASSERT_TRUE(read);
+    const StringTable english = MsgDefaults();
+    EXPECT_EQ(read.Value().MonthNames[0], english.MonthNames[0]);
+    EXPECT_EQ(read.Value().MonthMenu[0], "&Jan");
+    EXPECT_EQ(read.Value().WeekdayNames[0], "Monday");
+    EXPECT_EQ(TextAt(read.Value(), 1, 2), "SAVE EVENT");
+    EXPECT_EQ(TextAt(read.Value(), 3, 25), "");
+    EXPECT_EQ(TextAt(read.Value(), 3, 26), "De 3.26");
+}
+
+TEST(LanguageFileTest, ProgramTextsFollowTheNameOfTheLanguage) {
+    for (const auto& [heading, language] :
+         {std::pair{"Deutsch Language", 2}, {"Greek Language", 7}, {"Klingon Language", 0}}) {
+        const auto read = ReadLanguage(FileOf(LanguageBlock(heading, "x")), 0);
+        ASSERT_TRUE(read);
+        EXPECT_EQ(read.Value().ProgramLanguage, language) << heading;
+    }
+}
+
+TEST(LanguageFileTest, OnlyATextThatNeedsQuotesGetsThem) {
+    const struct {
+        const char* Text;
+        const char* Field;
+    } rows[] = {{"Save", "Save"},
+                {"say \"no\"", "say \"no\""},
+                {"now, later", "\"now, later\""},
+                {"\"quoted\" text", "\"\xE2\x80\x9Dquoted\xE2\x80\x9D text\""},
+                {"  \"x", "\"  \xE2\x80\x9Dx\""},
+                {"two\r\nlines", "two  lines"},
+                {"", ""}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(AsField(row.Text), row.Field);
+    }
+}
+
+// A language with every awkward text that a translator might type.
+StringTable AwkwardLanguage() {
+    StringTable table = MsgDefaults();
+    table.Texts[1][2] = "Oui, enregistrer";
+    table.Texts[3][0] = "Say, \"please\", twice";
+    table.Texts[5][10] = "\xCE\x91,\xCE\x92";
+    table.MonthNames[0] = "J,anuary";
+    table.WeekdayNames[6] = ",";
+    table.LanguageFont = "A, B";
+    table.Title = {13.25F, false, true};
+    return table;
+}
+
+TEST(LanguageFileTest, ALanguageReadsBackAsItWasWritten) {
+    const StringTable written = AwkwardLanguage();
+    const std::string bytes = PutLanguage("", " Tok, Pisin ", written);
+    EXPECT_EQ(LanguageNames(bytes), Lines{"Tok, Pisin "});
+    const auto read = ReadLanguage(bytes, 0);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read.Value().Title, written.Title);
+    EXPECT_EQ(read.Value().LanguageFont, "A, B");
+    EXPECT_EQ(read.Value().MonthNames[0], "J,anuary");
+    EXPECT_EQ(read.Value().WeekdayNames, written.WeekdayNames);
+    EXPECT_EQ(TextAt(read.Value(), 1, 2), "Oui, enregistrer");
+    EXPECT_EQ(TextAt(read.Value(), 3, 0),
+              "Say, \xE2\x80\x9Dplease\xE2\x80\x9D, twice"); // the file has no other quote
+    EXPECT_EQ(TextAt(read.Value(), 5, 50), TextAt(written, 5, 50));
+    // Only blanks before a text are lost on the way, once.
+    EXPECT_EQ(ReadLanguage(PutLanguage("", "Tok, Pisin", read.Value()), 0).Value(), read.Value());
+}
+
+TEST(LanguageFileTest, PuttingALanguageTouchesNoOther) {
+    const StringTable table = AwkwardLanguage();
+    const std::string block = PutLanguage("", "Deutsch", table);
+    const std::string english = FileOf(LanguageBlock("English Language", "En"), "\n");
+    const std::string german = FileOf(LanguageBlock("Deutsch Language", "De"));
+    const std::string latin = FileOf(LanguageBlock("Fran\xE7"
+                                                   "ais Language",
+                                                   "Fr \xE9"));
+    const std::string cut = "Greek Language\r\nArial\r\n";
+    const std::string rubbish = "no heading\r\n";
+    const struct {
+        std::string Before;
+        std::string After;
+    } rows[] = {{english + german + latin, english + block + latin},
+                {english + latin, english + latin + block},
+                {rubbish + german + latin, rubbish + block + latin},
+                {"\xEF\xBB\xBF" + german + latin, "\xEF\xBB\xBF" + block + latin},
+                {english.substr(0, english.size() - 1),
+                 english.substr(0, english.size() - 1) + "\r\n" + block},
+                // What a block cut short swallows is lost, so it stays the last.
+                {english + cut, english + block + cut}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        EXPECT_EQ(PutLanguage(row.Before, "Deutsch", table), row.After);
+        EXPECT_THAT(LanguageNames(row.After), testing::Contains("Deutsch "));
     }
 }
 

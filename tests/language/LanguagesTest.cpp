@@ -161,5 +161,31 @@ TEST_F(LanguagesTest, AFileThatIsGoneAtTheChoiceGoesBackToEnglish) {
     EXPECT_EQ(table_, MsgDefaults());
 }
 
+TEST_F(LanguagesTest, ACrashWhileSavingLeavesTheOldFile) {
+    const std::string old = Block("English Language", "En") + Block("Deutsch Language", "De");
+    for (const int writes : {0, 1}) {
+        SCOPED_TRACE(writes);
+        PutFile(old);
+        files_.CrashAfter(writes);
+        const Status saved = languages_.Save("Deutsch", MsgDefaults());
+        files_.Recover();
+        EXPECT_EQ(saved.Ok(), writes > 0);
+        int index = 1;
+        languages_.GetLanguage(index);
+        EXPECT_EQ(FirstText(), writes > 0 ? "Kestrova" : "De 0.0");
+        EXPECT_EQ(files_.Content("/k/Lan.dat") == old, writes == 0);
+    }
+}
+
+TEST_F(LanguagesTest, AFileThatCannotBeReadIsNotReplaced) {
+    PutFile(Block("English Language", "En"));
+    files_.FailReads(Error{ErrorCode::Busy, "not permitted"});
+    EXPECT_FALSE(languages_.Save("Deutsch", MsgDefaults()));
+    files_.FailReads({});
+    EXPECT_EQ(files_.Content("/k/Lan.dat"), Block("English Language", "En"));
+    EXPECT_TRUE(languages_.Has(" English"));
+    EXPECT_FALSE(languages_.Has("Deutsch"));
+}
+
 } // namespace
 } // namespace kestrova

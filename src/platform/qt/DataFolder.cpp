@@ -44,4 +44,13 @@ std::string FindDataFolder() {
     return FromQt(own);
 }
 
+std::string AutostartFolder() {
+    return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                  QStringLiteral("/autostart/"));
+}
+
+std::string ExecutablePath() {
+    return FromQt(QCoreApplication::applicationFilePath());
+}
+
 } // namespace kestrova

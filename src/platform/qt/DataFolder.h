@@ -10,4 +10,10 @@ namespace kestrova {
 // folder, into which the files that ship beside the executable are copied once.
 [[nodiscard]] std::string FindDataFolder();
 
+// The folder, ending in the separator, whose desktop entries the session starts at log-in.
+[[nodiscard]] std::string AutostartFolder();
+
+// The path of the program that is running.
+[[nodiscard]] std::string ExecutablePath();
+
 } // namespace kestrova

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -83,6 +84,20 @@ std::optional<std::string> QtDialogs::OpenFile(const std::string& folder,
     const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow(), QString(),
                                                       ToQt(folder), FilterOf(filter));
     return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
+}
+
+std::optional<FontChoice> QtDialogs::ChooseFont(const FontChoice& offered) {
+    QFont font(ToQt(offered.Family));
+    font.setPointSizeF(offered.Size);
+    font.setBold(offered.Bold);
+    font.setItalic(offered.Italic);
+    bool accepted = false;
+    font = QFontDialog::getFont(&accepted, font, QApplication::activeWindow());
+    if (!accepted) {
+        return std::nullopt;
+    }
+    return FontChoice{FromQt(font.family()), static_cast<float>(font.pointSizeF()), font.bold(),
+                      font.italic()};
 }
 
 } // namespace kestrova
