@@ -31,8 +31,8 @@ struct DiaryOnDisc {
     std::string Bytes = WriteDiary(Table);
 
     DiaryOnDisc() {
-        (void)Discs.MakeFolder(NoteFolder(Folder.Path()));
-        (void)Discs.Replace(DiaryPath(Folder.Path()), Bytes);
+        (void)Discs.MakeFolder(NoteFolder(Discs, Folder.Path()));
+        (void)Discs.Replace(DiaryPath(Discs, Folder.Path()), Bytes);
     }
 };
 
@@ -78,7 +78,7 @@ std::size_t ReadAndCut(const char* path, std::string& bytes, std::vector<std::st
 
 void LoadLimit(benchmark::State& state) {
     const DiaryOnDisc disc;
-    const std::string path = DiaryPath(disc.Folder.Path());
+    const std::string path = DiaryPath(disc.Discs, disc.Folder.Path());
     for ([[maybe_unused]] auto _ : state) {
         std::string bytes;
         std::vector<std::string> lines;
@@ -116,7 +116,7 @@ bool WriteSyncRename(const std::string& path, std::string_view bytes) {
 
 void SaveLimit(benchmark::State& state) {
     const DiaryOnDisc disc;
-    const std::string path = DiaryPath(disc.Folder.Path());
+    const std::string path = DiaryPath(disc.Discs, disc.Folder.Path());
     for ([[maybe_unused]] auto _ : state) {
         if (!WriteSyncRename(path, disc.Bytes)) {
             state.SkipWithError("the bytes cannot be written");

@@ -82,7 +82,8 @@ struct Running {
     AppSettings Settings = FirstSettings(Texts);
     Selection Dates;
     DiaryFiles OnDisc{Files, Time};
-    DiaryStore Store{OnDisc, Boxes, Texts, [] {}};
+    FolderProbe Probe{Folder, [](const std::string& /*other*/) { return false; }};
+    DiaryStore Store{OnDisc, Boxes, Texts, Probe, [] {}};
     UnavailableSpeaker Speech;
     UnavailableCaller Phone;
     UnavailableMail Mail;
@@ -92,8 +93,8 @@ struct Running {
         {Time, Store, Dates, Texts, Settings, Folder, Review, Speech, Media, Bell, Windows}};
 
     Running() {
-        std::filesystem::create_directories(NoteFolder(Folder));
-        (void)Files.Replace(DiaryPath(Folder), WriteDiary(FullDiary(Texts)));
+        std::filesystem::create_directories(NoteFolder(Files, Folder));
+        (void)Files.Replace(DiaryPath(Files, Folder), WriteDiary(FullDiary(Texts)));
         Time.Shown = Time.Real.Now();
         Dates.BaseYear = Time.Shown.Year;
         Store.GetData(Folder);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the inputs that the fuzzers begin with into the folder named, a folder for each target.
 #include "diary/DiaryFile.h"
+#include "diary/NetUsers.h"
 #include "diary/NoteName.h"
 #include "diary/SaveJournal.h"
 #include "language/LanguageFile.h"
@@ -107,6 +108,15 @@ void WriteJournals(const std::filesystem::path& root) {
     seeds.Write("full", kestrova::WriteJournal(journal));
 }
 
+void WriteNetUsers(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "NetUsers");
+    seeds.Write("register",
+                kestrova::WriteNetUsers({{"/home/me/", "My Diary"}, {"//server/bob/", "Bob"}}));
+    seeds.Write("old", "C:\\Kestrova\nMy Diary\n\\\\server\\caf\xE9\\\nCaf\xE9\nodd");
+    seeds.Write("path", "/net/bob/Diarydat/Data.dat");
+    seeds.Write("note", "two\r\nlines\r\n\r\n");
+}
+
 void WriteTexts(const std::filesystem::path& root) {
     const SeedFolder seeds(root, "Text");
     seeds.Write("lines", "\xEF\xBB\xBFone\r\ntwo\nthree\r\r\n\nfour");
@@ -130,6 +140,7 @@ int main(int argc, char* argv[]) {
     WriteSettingsSeeds(root);
     WriteDiarySeeds(root);
     WriteJournals(root);
+    WriteNetUsers(root);
     WriteTexts(root);
     return 0;
 }

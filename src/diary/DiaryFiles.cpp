@@ -12,40 +12,66 @@ namespace kestrova {
 namespace {
 
 constexpr std::chrono::milliseconds kLockWait{700};
-constexpr std::size_t kNoteLimit = std::size_t{64} << 20U;
 constexpr std::size_t kJournalLimit = std::size_t{1} << 30U;
 constexpr std::string_view kMoreLinesMark = "with more lines";
 
-std::string JournalPath(const std::string& folder) {
-    return NoteFolder(folder) + "Saving.tmp";
+std::string EntryPath(const FileStore& files, const std::string& folder, const std::string& name) {
+    return folder + files.FindEntry(folder, name).value_or(name);
 }
 
-std::string YearPath(const std::string& folder) {
-    return NoteFolder(folder) + "Year.dat";
+// Nobody but this program writes these two, so their names are exact.
+std::string JournalPath(const std::string& noteFolder) {
+    return noteFolder + "Saving.tmp";
+}
+
+std::string YearPath(const std::string& noteFolder) {
+    return noteFolder + "Year.dat";
+}
+
+// The files of a folder that are notes, by the name of the note. Looked up one by one, many notes
+// would mean as many looks through the whole folder.
+std::map<std::string, std::string> NoteFiles(const FileStore& files,
+                                             const std::string& noteFolder) {
+    std::map<std::string, std::string> notes;
+    for (std::string& file : files.List(noteFolder)) {
+        auto name = NoteNameOf(file);
+        if (name && (file == *name || !notes.contains(*name))) {
+            notes[std::move(*name)] = std::move(file);
+        }
+    }
+    return notes;
 }
 
 } // namespace
 
-std::string NoteFolder(const std::string& diaryFolder) {
-    return diaryFolder + "DiaryDat/";
+std::string NoteFolder(const FileStore& files, const std::string& diaryFolder) {
+    return EntryPath(files, diaryFolder, "DiaryDat") + "/";
 }
 
-std::string DiaryPath(const std::string& diaryFolder) {
-    return NoteFolder(diaryFolder) + "Data.dat";
+std::string DiaryPath(const FileStore& files, const std::string& diaryFolder) {
+    return EntryPath(files, NoteFolder(files, diaryFolder), "Data.dat");
 }
 
-Result<std::unique_ptr<FileLock>> DiaryFiles::Open(const std::string& folder, LockKind kind) {
+std::string DiaryFiles::NotePath(const std::string& folder, const std::string& name) const {
+    return EntryPath(files_, NoteFolder(files_, folder), name);
+}
+
+Result<std::unique_ptr<FileLock>> DiaryFiles::Open(const std::string& folder, LockKind kind,
+                                                   LockPatience patience) {
+    const std::string notes = NoteFolder(files_, folder);
+    const std::string path = DiaryPath(files_, folder);
+    std::chrono::milliseconds wait = patience == LockPatience::Moment ? kLockWait : kLockWait * 0;
     // Completing a save means writing, so a reader who finds one to complete asks for more.
-    const bool unfinished = files_.Stamp(JournalPath(folder)).has_value();
-    if (unfinished && kind == LockKind::Shared) {
-        auto exclusive = files_.Lock(DiaryPath(folder), LockKind::Exclusive, kLockWait);
+    if (kind == LockKind::Shared && files_.Stamp(JournalPath(notes))) {
+        wait /= 2; // there may be two waits now
+        auto exclusive = files_.Lock(path, LockKind::Exclusive, wait);
         if (exclusive && CompleteSave(folder)) {
             return exclusive;
         }
     }
-    auto lock = files_.Lock(DiaryPath(folder), kind, kLockWait);
+    auto lock = files_.Lock(path, kind, wait);
     if (lock && kind == LockKind::Exclusive) {
-        files_.RemoveLeftovers(NoteFolder(folder));
+        files_.RemoveLeftovers(notes);
         const Status completed = CompleteSave(folder);
         if (!completed) {
             return completed.Failure();
@@ -57,7 +83,7 @@ Result<std::unique_ptr<FileLock>> DiaryFiles::Open(const std::string& folder, Lo
 Result<LoadedDiary> DiaryFiles::Read(const std::string& folder) {
     LoadedDiary loaded;
     loaded.Stamp = Stamp(folder);
-    const auto bytes = files_.Read(DiaryPath(folder), kDiaryFileLimit);
+    const auto bytes = files_.Read(DiaryPath(files_, folder), kDiaryFileLimit);
     if (!bytes) {
         return bytes.Failure();
     }
@@ -94,8 +120,12 @@ Result<SaveJournal> DiaryFiles::Plan(const std::string& folder, const NotePlan& 
 }
 
 Status DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journal) {
+    const std::string noteFolder = NoteFolder(files_, folder);
+    const auto there = journal.Notes.empty() ? std::map<std::string, std::string>()
+                                             : NoteFiles(files_, noteFolder);
     for (const auto& [name, text] : journal.Notes) {
-        const std::string path = NoteFolder(folder) + name;
+        const auto file = there.find(name);
+        const std::string path = noteFolder + (file == there.end() ? name : file->second);
         const Status status = text ? files_.Replace(path, *text) : files_.Remove(path);
         if (!status) {
             return status;
@@ -104,7 +134,7 @@ Status DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journa
     if (journal.RolledTo) {
         std::string year;
         AppendNumber(year, *journal.RolledTo);
-        return files_.Replace(YearPath(folder), year.append(kLineEnd));
+        return files_.Replace(YearPath(noteFolder), year.append(kLineEnd));
     }
     return Done{};
 }
@@ -112,6 +142,7 @@ Status DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journa
 Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, const NotePlan& notes,
                          std::optional<int> rolledTo) {
     const std::string bytes = WriteDiary(table);
+    const std::string journalPath = JournalPath(NoteFolder(files_, folder));
     auto journal = Plan(folder, notes);
     if (!journal) {
         return journal.Failure();
@@ -121,12 +152,12 @@ Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, con
         journal.Value().DiaryDigest = Digest(bytes);
         journal.Value().DiarySize = bytes.size();
         journal.Value().RolledTo = rolledTo;
-        const Status written = files_.Replace(JournalPath(folder), WriteJournal(journal.Value()));
+        const Status written = files_.Replace(journalPath, WriteJournal(journal.Value()));
         if (!written) {
             return written;
         }
     }
-    const Status saved = files_.Replace(DiaryPath(folder), bytes);
+    const Status saved = files_.Replace(DiaryPath(files_, folder), bytes);
     if (!saved || !needsJournal) {
         // A journal that stays behind a failed save no longer matches the diary file and is thrown
         // away when the folder is next opened.
@@ -135,19 +166,20 @@ Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, con
     // What cannot be carried out now is carried out when the folder is next opened: the journal
     // stays for that.
     if (CarryOut(folder, journal.Value())) {
-        (void)files_.Remove(JournalPath(folder));
+        (void)files_.Remove(journalPath);
     }
     return Done{};
 }
 
 Status DiaryFiles::CompleteSave(const std::string& folder) {
-    const auto bytes = files_.Read(JournalPath(folder), kJournalLimit);
+    const std::string journalPath = JournalPath(NoteFolder(files_, folder));
+    const auto bytes = files_.Read(journalPath, kJournalLimit);
     if (!bytes) {
         const bool none = bytes.Failure().Code == ErrorCode::NotFound;
         return none ? Status(Done{}) : Status(bytes.Failure());
     }
     if (const auto journal = ReadJournal(bytes.Value())) {
-        const auto diary = files_.Read(DiaryPath(folder), kDiaryFileLimit);
+        const auto diary = files_.Read(DiaryPath(files_, folder), kDiaryFileLimit);
         if (!diary && diary.Failure().Code != ErrorCode::NotFound) {
             return diary.Failure();
         }
@@ -158,12 +190,12 @@ Status DiaryFiles::CompleteSave(const std::string& folder) {
             }
         }
     }
-    return files_.Remove(JournalPath(folder));
+    return files_.Remove(journalPath);
 }
 
 std::optional<int> DiaryFiles::RolledTo(const std::string& folder) const {
     constexpr std::size_t kYearLimit = 100; // bytes
-    const auto bytes = files_.Read(YearPath(folder), kYearLimit);
+    const auto bytes = files_.Read(YearPath(NoteFolder(files_, folder)), kYearLimit);
     const auto line = bytes ? LineReader(bytes.Value()).Next() : std::nullopt;
     const auto year = line ? ReadInt16(*line) : std::nullopt;
     return year ? std::optional<int>(*year) : std::nullopt;
@@ -171,29 +203,50 @@ std::optional<int> DiaryFiles::RolledTo(const std::string& folder) const {
 
 std::set<std::string> DiaryFiles::NoteNames(const std::string& folder) const {
     std::set<std::string> names;
-    for (std::string& name : files_.List(NoteFolder(folder))) {
-        if (IsNoteName(name)) {
-            names.insert(std::move(name));
-        }
+    for (const auto& [name, file] : NoteFiles(files_, NoteFolder(files_, folder))) {
+        names.insert(name);
     }
     return names;
 }
 
-Result<std::string> DiaryFiles::ReadNote(const std::string& folder, const std::string& name) const {
-    return files_.Read(NoteFolder(folder) + name, kNoteLimit);
+std::set<std::string> DiaryFiles::NotesWithText(const std::string& folder,
+                                                const std::set<std::string>& names) const {
+    std::set<std::string> withText;
+    const std::string noteFolder = NoteFolder(files_, folder);
+    for (const auto& [name, file] : NoteFiles(files_, noteFolder)) {
+        const auto stamp = names.contains(name) ? files_.Stamp(noteFolder + file) : std::nullopt;
+        if (stamp && stamp->Size > 0) {
+            withText.insert(name);
+        }
+    }
+    return withText;
+}
+
+Result<std::string> DiaryFiles::ReadNote(const std::string& folder, const std::string& name,
+                                         std::size_t limit) const {
+    return files_.Read(NotePath(folder, name), limit);
+}
+
+Status DiaryFiles::WriteNote(const std::string& folder, const std::string& name,
+                             std::string_view bytes) {
+    return files_.Replace(NotePath(folder, name), bytes);
+}
+
+Status DiaryFiles::RemoveNote(const std::string& folder, const std::string& name) {
+    return files_.Remove(NotePath(folder, name));
 }
 
 Status DiaryFiles::WriteAside(const std::string& folder, std::string_view mark,
                               const DiaryTable& table) {
-    return WriteNewAside(files_, clock_.Now(), DiaryPath(folder), mark, WriteDiary(table));
+    return WriteNewAside(files_, clock_.Now(), DiaryPath(files_, folder), mark, WriteDiary(table));
 }
 
 Status DiaryFiles::MoveAside(const std::string& folder, std::string_view mark) {
-    return kestrova::MoveAside(files_, clock_.Now(), DiaryPath(folder), mark);
+    return kestrova::MoveAside(files_, clock_.Now(), DiaryPath(files_, folder), mark);
 }
 
 Status DiaryFiles::CopyAside(const std::string& folder, std::string_view mark) {
-    return kestrova::CopyAside(files_, clock_.Now(), DiaryPath(folder), mark);
+    return kestrova::CopyAside(files_, clock_.Now(), DiaryPath(files_, folder), mark);
 }
 
 } // namespace kestrova

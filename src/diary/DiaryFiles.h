@@ -14,10 +14,15 @@
 
 namespace kestrova {
 
-// The folder under a diary folder that holds the diary file and the notes, and the diary file.
-// Notes belong to their diary, so that looking at a friend's can never rename or delete one's own.
-[[nodiscard]] std::string NoteFolder(const std::string& diaryFolder);
-[[nodiscard]] std::string DiaryPath(const std::string& diaryFolder);
+// The folder under a diary folder that holds the diary file and the notes, and the diary file:
+// "DiaryDat/Data.dat", in whatever case it stands there. Notes belong to their diary, so that
+// looking at a friend's can never rename or delete one's own.
+[[nodiscard]] std::string NoteFolder(const FileStore& files, const std::string& diaryFolder);
+[[nodiscard]] std::string DiaryPath(const FileStore& files, const std::string& diaryFolder);
+
+// How long opening a diary waits for whoever holds it: a moment, which the user does not notice, or
+// not at all.
+enum class LockPatience { Moment, None };
 
 struct LoadedDiary {
     DiaryTable Table;
@@ -31,9 +36,10 @@ public:
     DiaryFiles(FileStore& files, const Clock& clock) : files_(files), clock_(clock) {}
 
     // Locks the folder and completes a save that a crash has cut short. Busy when someone else
-    // holds it for longer than a moment, or it cannot be written (Exclusive). Failed (Exclusive)
+    // holds it for longer than is waited, or it cannot be written (Exclusive). Failed (Exclusive)
     // when such a save cannot be completed now: writing on would lose its notes.
-    Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind);
+    Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind,
+                                           LockPatience patience = LockPatience::Moment);
 
     // NotFound, Busy, TooLarge, Damaged or Failed. Lines that no record uses are no damage, but the
     // file is kept aside before the next save could drop them.
@@ -51,14 +57,23 @@ public:
     [[nodiscard]] std::optional<int> RolledTo(const std::string& folder) const;
 
     [[nodiscard]] std::optional<FileStamp> Stamp(const std::string& folder) const {
-        return files_.Stamp(DiaryPath(folder));
+        return files_.Stamp(DiaryPath(files_, folder));
     }
 
     // The names of the notes in the folder.
     [[nodiscard]] std::set<std::string> NoteNames(const std::string& folder) const;
 
-    // The text of a note; NotFound when it has none.
-    Result<std::string> ReadNote(const std::string& folder, const std::string& name) const;
+    // The names of those notes in the folder that are not empty, out of these.
+    [[nodiscard]] std::set<std::string> NotesWithText(const std::string& folder,
+                                                      const std::set<std::string>& names) const;
+
+    // The bytes of a note: NotFound when there is none, TooLarge when it has more than `limit`.
+    Result<std::string> ReadNote(const std::string& folder, const std::string& name,
+                                 std::size_t limit = kNoteLimit) const;
+
+    // Writes or removes one note and nothing else.
+    Status WriteNote(const std::string& folder, const std::string& name, std::string_view bytes);
+    Status RemoveNote(const std::string& folder, const std::string& name);
 
     // Writes a table beside the diary file, as it would be kept aside.
     Status WriteAside(const std::string& folder, std::string_view mark, const DiaryTable& table);
@@ -68,6 +83,10 @@ public:
     Status CopyAside(const std::string& folder, std::string_view mark);
 
 private:
+    // What is moved with an event unseen may be larger than what can be edited.
+    static constexpr std::size_t kNoteLimit = std::size_t{64} << 20U; // bytes
+
+    [[nodiscard]] std::string NotePath(const std::string& folder, const std::string& name) const;
     Result<SaveJournal> Plan(const std::string& folder, const NotePlan& notes) const;
     Status CarryOut(const std::string& folder, const SaveJournal& journal);
     Status CompleteSave(const std::string& folder);

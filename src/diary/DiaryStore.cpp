@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/DiaryStore.h"
 
-#include "diary/NoteName.h"
 #include "diary/RollOver.h"
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
@@ -22,8 +21,18 @@ bool IsDamage(ErrorCode code) {
 
 } // namespace
 
-Status DiaryStore::TryRead(const std::string& folder) {
-    const auto opened = files_.Open(folder, LockKind::Shared);
+Result<std::unique_ptr<FileLock>> DiaryStore::Open(const std::string& folder, LockKind kind,
+                                                   LockPatience patience) {
+    // Locking leaves a companion file behind, and another user's folder without a diary is to get
+    // nothing of ours.
+    if (!probe_.IsOwn(folder) && (!probe_.Answers(folder) || !files_.Stamp(folder))) {
+        return Error{ErrorCode::NotFound, folder};
+    }
+    return files_.Open(folder, kind, patience);
+}
+
+Status DiaryStore::TryRead(const std::string& folder, LockPatience patience) {
+    const auto opened = Open(folder, LockKind::Shared, patience);
     if (!opened) {
         return opened.Failure();
     }
@@ -36,23 +45,42 @@ Status DiaryStore::TryRead(const std::string& folder) {
     return Done{};
 }
 
+void DiaryStore::ShowBusy() {
+    dialogs_.Show({texts_.Text(texts::kProgramTitle), TextOf(texts_, ProgramText::DiaryBusy),
+                   DialogIcon::Critical});
+}
+
+void DiaryStore::ShowOutOfReach() {
+    dialogs_.Show({texts_.Text(texts::kMessengerTitle),
+                   TextOf(texts_, ProgramText::DiaryOutOfReach), DialogIcon::Critical});
+}
+
 void DiaryStore::GetData(const std::string& folder) {
     suspect_.reset();
-    const Status read = TryRead(folder);
+    const Status read = TryRead(folder, LockPatience::Moment);
     if (read) {
         folder_ = folder;
         return;
     }
-    if (read.Failure().Code == ErrorCode::Busy) {
+    const ErrorCode code = read.Failure().Code;
+    if (code == ErrorCode::Busy) {
         // The diary that was shown stays; at start-up there was none.
         if (folder_.empty()) {
             folder_ = folder;
         }
-        dialogs_.Show({texts_.Text(texts::kProgramTitle),
-                       std::string(TextOf(ProgramText::DiaryBusy)), DialogIcon::Critical});
+        ShowBusy();
         return;
     }
-    folder_ = folder;
+    if (probe_.IsOwn(folder)) {
+        if (folder_ != folder) {
+            table_ = DiaryTable(); // another user's events must not get into this one
+            stamp_.reset();
+        }
+        folder_ = folder;
+    } else if (!IsDamage(code)) {
+        ShowOutOfReach();
+        return;
+    }
     Reformat(folder);
 }
 
@@ -60,11 +88,11 @@ void DiaryStore::Reformat(const std::string& folder) {
     dialogs_.Show({texts_.Text(texts::kMessengerTitle),
                    texts_.Text(texts::kDiaryCorrupt) + "\n" + texts_.Text(texts::kFilesReformatted),
                    DialogIcon::Critical});
-    (void)Persist(SaveMessages::Show, [&] { return TryReformat(folder); });
+    (void)Persist(folder, SaveMessages::Show, [&] { return TryReformat(folder); });
 }
 
 Status DiaryStore::TryReformat(const std::string& folder) {
-    const auto opened = files_.Open(folder, LockKind::Exclusive);
+    const auto opened = Open(folder, LockKind::Exclusive);
     if (!opened) {
         return opened.Failure();
     }
@@ -73,9 +101,11 @@ Status DiaryStore::TryReformat(const std::string& folder) {
     if (loaded) {
         table_ = std::move(loaded.Value().Table);
         stamp_ = loaded.Value().Stamp;
+        folder_ = folder;
         return Done{};
     }
-    if (loaded.Failure().Code == ErrorCode::Busy) {
+    const ErrorCode code = loaded.Failure().Code;
+    if (code == ErrorCode::Busy || (!probe_.IsOwn(folder) && !IsDamage(code))) {
         return loaded.Failure();
     }
     if (files_.Stamp(folder)) {
@@ -89,15 +119,22 @@ Status DiaryStore::TryReformat(const std::string& folder) {
 }
 
 // Tells the user about a save that has failed; whether they want to try once more.
-bool DiaryStore::AsksToTryAgain(const Error& error) {
+bool DiaryStore::AsksToTryAgain(const std::string& folder, const Error& error) {
     if (error.Code == ErrorCode::Busy) {
-        dialogs_.Show({texts_.Text(texts::kProgramTitle),
-                       std::string(TextOf(ProgramText::DiaryBusy)), DialogIcon::Critical});
+        ShowBusy();
+        return false;
+    }
+    if (!probe_.IsOwn(folder)) {
+        if (error.Code == ErrorCode::Full) {
+            dialogs_.Show({texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical});
+        } else {
+            ShowOutOfReach();
+        }
         return false;
     }
     const bool again = dialogs_.Ask(
         {texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical},
-        {std::string(TextOf(ProgramText::Retry)), std::string(TextOf(ProgramText::CloseProgram))});
+        {TextOf(texts_, ProgramText::Retry), TextOf(texts_, ProgramText::CloseProgram)});
     if (!again) {
         stop_();
     }
@@ -105,13 +142,14 @@ bool DiaryStore::AsksToTryAgain(const Error& error) {
 }
 
 // Every attempt opens the folder anew, so no lock is held while the user reads a message.
-ChangeResult DiaryStore::Persist(SaveMessages messages, const std::function<Status()>& attempt) {
+ChangeResult DiaryStore::Persist(const std::string& folder, SaveMessages messages,
+                                 const std::function<Status()>& attempt) {
     for (;;) {
         const Status status = attempt();
         if (status) {
             return ChangeResult::Saved;
         }
-        if (messages == SaveMessages::Keep || !AsksToTryAgain(status.Failure())) {
+        if (messages == SaveMessages::Keep || !AsksToTryAgain(folder, status.Failure())) {
             return ChangeResult::NotSaved;
         }
     }
@@ -129,7 +167,8 @@ Result<DiaryTable> DiaryStore::Latest(const std::string& folder) {
         return std::move(loaded.Value().Table);
     }
     const Error& error = loaded.Failure();
-    if (folder != folder_ || (error.Code != ErrorCode::NotFound && !IsDamage(error.Code))) {
+    const bool gone = error.Code == ErrorCode::NotFound;
+    if (folder != folder_ || (gone && !probe_.IsOwn(folder)) || (!gone && !IsDamage(error.Code))) {
         return error;
     }
     if (IsDamage(error.Code) && suspect_ != now) {
@@ -158,7 +197,7 @@ Status DiaryStore::Write(const std::string& folder, DiaryTable table, const Note
 }
 
 Status DiaryStore::TryChange(const std::string& folder, const Edit& edit, EditVerdict& verdict) {
-    const auto opened = files_.Open(folder, LockKind::Exclusive);
+    const auto opened = Open(folder, LockKind::Exclusive);
     if (!opened) {
         return opened.Failure();
     }
@@ -178,7 +217,7 @@ Status DiaryStore::TryChange(const std::string& folder, const Edit& edit, EditVe
 ChangeResult DiaryStore::Change(const Edit& edit, SaveMessages messages) {
     EditVerdict verdict = EditVerdict::Leave;
     const ChangeResult result =
-        Persist(messages, [&] { return TryChange(folder_, edit, verdict); });
+        Persist(folder_, messages, [&] { return TryChange(folder_, edit, verdict); });
     const bool left = result == ChangeResult::Saved && verdict == EditVerdict::Leave;
     return left ? ChangeResult::Left : result;
 }
@@ -191,14 +230,14 @@ ChangeResult DiaryStore::DataFormat() {
 }
 
 DiaryNews DiaryStore::Refresh() {
-    const auto now = files_.Stamp(folder_);
+    const auto now = probe_.Answers(folder_) ? files_.Stamp(folder_) : std::nullopt;
     if (!now) {
         return DiaryNews::FolderGone;
     }
     if (now == stamp_) {
         return DiaryNews::Same;
     }
-    const Status read = TryRead(folder_);
+    const Status read = TryRead(folder_, LockPatience::None);
     if (read) {
         suspect_.reset();
         return DiaryNews::Reloaded;
@@ -216,7 +255,7 @@ DiaryNews DiaryStore::Refresh() {
 }
 
 Status DiaryStore::TryBringForward(const std::string& folder, int fromYear, int toYear) {
-    const auto opened = files_.Open(folder, LockKind::Exclusive);
+    const auto opened = Open(folder, LockKind::Exclusive);
     if (!opened) {
         return opened.Failure();
     }
@@ -242,8 +281,8 @@ Status DiaryStore::TryBringForward(const std::string& folder, int fromYear, int 
 }
 
 ChangeResult DiaryStore::SetYear(const std::string& folder, int year) {
-    return Persist(SaveMessages::Show, [&]() -> Status {
-        const auto opened = files_.Open(folder, LockKind::Exclusive);
+    return Persist(folder, SaveMessages::Show, [&]() -> Status {
+        const auto opened = Open(folder, LockKind::Exclusive);
         if (!opened) {
             return opened.Failure();
         }
@@ -258,12 +297,7 @@ ChangeResult DiaryStore::SetYear(const std::string& folder, int year) {
 
 ChangeResult DiaryStore::BringForward(const std::string& folder, int fromYear, int toYear,
                                       SaveMessages messages) {
-    return Persist(messages, [&] { return TryBringForward(folder, fromYear, toYear); });
-}
-
-std::optional<std::string> DiaryStore::Note(const SlotPlace& place) const {
-    auto text = files_.ReadNote(folder_, GetFile(place));
-    return text ? std::optional(std::move(text.Value())) : std::nullopt;
+    return Persist(folder, messages, [&] { return TryBringForward(folder, fromYear, toYear); });
 }
 
 } // namespace kestrova

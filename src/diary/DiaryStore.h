@@ -3,12 +3,16 @@
 
 #include "diary/DiaryFiles.h"
 #include "diary/EventList.h"
+#include "diary/FolderProbe.h"
 #include "language/StringTable.h"
 #include "platform/Dialogs.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <string_view>
 
 namespace kestrova {
 
@@ -31,21 +35,36 @@ enum class SaveMessages { Show, Keep };
 // What the ten-second look at the diary's file has found.
 enum class DiaryNews { Same, Reloaded, FolderGone };
 
+// How the writing of a note has ended.
+enum class NoteResult {
+    Saved,
+    NoEvent,    // its event is no longer in the diary
+    Busy,       // someone holds the diary, or it cannot be written
+    OutOfReach, // the folder of a shared diary does not answer, or the diary in it has gone
+    Failed
+};
+
 // The diary in memory and its file: owns the event table, the folder of the diary shown
 // (DiaryFolder) and the stamp by which a change from outside is noticed (DiaryStamp). One file may
 // be used by several programs at once: a change is applied to the file's latest state, under a
 // lock, so that nobody's edit of another event is lost.
+//
+// The folder shown may be that of another user. Such a shared diary is never made where there is
+// none, is not touched while its folder does not answer, and no trouble with it ends the program.
 class DiaryStore {
 public:
     // An edit gets the latest table to work on. It may be called again when saving has failed and
     // the user wants to try again, so it must not keep anything from an earlier call.
     using Edit = std::function<EditVerdict(EventList& events)>;
 
-    // `stop` ends the program in order; called when the diary cannot be saved and the user gives
-    // up.
-    DiaryStore(DiaryFiles& files, Dialogs& dialogs, const StringTable& texts,
+    // Says where in a table the note of an event stands; nothing when the event is not there.
+    using FindPlace = std::function<std::optional<SlotPlace>(const DiaryTable& table)>;
+
+    // `probe` knows the program folder and asks the others. `stop` ends the program in order;
+    // called when the user's own diary cannot be saved and the user gives up.
+    DiaryStore(DiaryFiles& files, Dialogs& dialogs, const StringTable& texts, FolderProbe& probe,
                std::function<void()> stop)
-        : files_(files), dialogs_(dialogs), texts_(texts), stop_(std::move(stop)) {}
+        : files_(files), dialogs_(dialogs), texts_(texts), probe_(probe), stop_(std::move(stop)) {}
 
     [[nodiscard]] const DiaryTable& Table() const { return table_; }
 
@@ -54,9 +73,13 @@ public:
 
     [[nodiscard]] const std::string& Folder() const { return folder_; }
 
+    // Whether the diary shown is another user's.
+    [[nodiscard]] bool IsShared() const { return !probe_.IsOwn(folder_); }
+
     // Loads the diary of a folder and shows it from now on. A diary that is busy gives a message
     // and leaves the table as it is; one that is damaged or missing gives a message, and an empty
-    // one is put in its place, the damaged file kept beside it.
+    // one is put in its place, the damaged file kept beside it. A shared one that is missing or out
+    // of reach gives a message, too, but the diary shown before stays.
     void GetData(const std::string& folder);
 
     // Applies an edit to the diary shown and saves it.
@@ -65,7 +88,8 @@ public:
     // Clears every stored slot and its note, and saves.
     ChangeResult DataFormat();
 
-    // Looks whether someone else has changed the file, and loads it if so.
+    // Looks whether someone else has changed the file, and loads it if so. Waits for nobody: what
+    // cannot be read now is looked at again the next time.
     DiaryNews Refresh();
 
     // Brings the diary of a folder forward from one base year to a later one, a copy of the old
@@ -86,21 +110,40 @@ public:
     // The text of the note at a place of the diary shown; nothing when it has none.
     [[nodiscard]] std::optional<std::string> Note(const SlotPlace& place) const;
 
+    // The slots of a day of the diary shown whose events have a note with something in it.
+    [[nodiscard]] std::set<int> SlotsWithNotes(const DayPlace& day) const;
+
+    // The bytes of the note of an event as the file has it now, an empty one made when there is
+    // none. NotFound when the event is not there, TooLarge when it has more than `limit` bytes,
+    // else as opening and reading fail.
+    Result<std::string> OpenNote(const FindPlace& find, std::size_t limit);
+
+    // Writes the note of an event, or removes it when there are no bytes to write, and touches
+    // nothing else.
+    NoteResult SaveNote(const FindPlace& find, std::optional<std::string_view> bytes);
+
 private:
+    Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind,
+                                           LockPatience patience = LockPatience::Moment);
     Status TryChange(const std::string& folder, const Edit& edit, EditVerdict& verdict);
-    Status TryRead(const std::string& folder);
+    Status TryRead(const std::string& folder, LockPatience patience);
+    Result<std::optional<SlotPlace>> PlaceNow(const FindPlace& find);
     Result<DiaryTable> Latest(const std::string& folder);
     Status Write(const std::string& folder, DiaryTable table, const NotePlan& notes,
                  std::optional<int> rolledTo);
     Status TryBringForward(const std::string& folder, int fromYear, int toYear);
-    [[nodiscard]] bool AsksToTryAgain(const Error& error);
-    ChangeResult Persist(SaveMessages messages, const std::function<Status()>& attempt);
+    [[nodiscard]] bool AsksToTryAgain(const std::string& folder, const Error& error);
+    ChangeResult Persist(const std::string& folder, SaveMessages messages,
+                         const std::function<Status()>& attempt);
+    void ShowBusy();
+    void ShowOutOfReach();
     void Reformat(const std::string& folder);
     Status TryReformat(const std::string& folder);
 
     DiaryFiles& files_;
     Dialogs& dialogs_;
     const StringTable& texts_;
+    FolderProbe& probe_;
     std::function<void()> stop_;
 
     DiaryTable table_;

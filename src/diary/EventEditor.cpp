@@ -58,13 +58,15 @@ std::optional<DayPlace> EventEditor::Day(const CalendarDate& date) const {
 AcceptResult EventEditor::BeginNew() {
     date_ = rooms_.Dates.Page();
     original_.reset();
+    kind_.reset();
     extra_ = {};
     const auto day = Day(date_);
     if (day && !rooms_.Store.Table().At({kEventsPerDay, *day}).IsFree()) {
         rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                           std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+                           TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
         return AcceptResult::Refused;
     }
+    note_.Begin(date_, std::nullopt);
     return AcceptResult::Accepted;
 }
 
@@ -75,7 +77,9 @@ AcceptResult EventEditor::BeginEdit(int slot) {
         return AcceptResult::Refused;
     }
     original_ = rooms_.Store.Table().At({slot, *day});
+    kind_ = ReminderKindOf(rooms_.Texts, original_->Rmd);
     extra_ = original_->Extra;
+    note_.Begin(date_, original_);
     return AcceptResult::Accepted;
 }
 
@@ -108,7 +112,7 @@ bool EventEditor::RefusesRepeat(const EventDraft& draft) {
 bool EventEditor::CollectMediaFile() {
     const ProgramText filter =
         rooms_.Details.VideoWorks() ? ProgramText::MediaFilter : ProgramText::WaveFilter;
-    const auto path = rooms_.Boxes.OpenFile("", std::string(TextOf(filter)));
+    const auto path = rooms_.Boxes.OpenFile("", TextOf(rooms_.Texts, filter));
     if (path) {
         if (path->ends_with(".wav") || path->ends_with(".WAV")) {
             rooms_.Details.Preview(*path);
@@ -120,7 +124,7 @@ bool EventEditor::CollectMediaFile() {
 
 // Whether the reminder can be given; if not, the user has been told.
 bool EventEditor::CollectDetails(ReminderKind kind) {
-    if (!original_ || ReminderKindOf(rooms_.Texts, original_->Rmd) != kind) {
+    if (kind_ != kind) {
         extra_ = {}; // a telephone number is no media file
     }
     switch (kind) {
@@ -158,7 +162,7 @@ bool EventEditor::CollectDetails(ReminderKind kind) {
 void EventEditor::Remove(EventList& events, const SlotPlace& place) {
     removing_.push_back({{rooms_.Dates.BaseYear + place.Year, place.Month, place.Day},
                          events.Table().At(place),
-                         rooms_.Store.Note(place)});
+                         events.Notes().Has(place) ? rooms_.Store.Note(place) : std::nullopt});
     events.DeleteMsg(place);
 }
 
@@ -170,7 +174,11 @@ EditVerdict EventEditor::Insert(EventList& events, const DayPlace& day, const Di
     }
     const SlotPlace scratch(kScratchSlot, day);
     events.Table().At(scratch) = event;
-    events.Notes().CreateEmpty(scratch);
+    if (const auto& bytes = note_.Bytes()) {
+        events.Notes().Put(scratch, *bytes);
+    } else {
+        events.Notes().CreateEmpty(scratch);
+    }
     if (const auto slot = events.SortMsg(day)) {
         RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*slot, day});
     }
@@ -191,6 +199,9 @@ EditVerdict EventEditor::Overwrite(EventList& events, const DayPlace& day,
         return EditVerdict::Save;
     }
     events.Table().At(place) = event;
+    if (note_.IsUnsaved()) {
+        events.Notes().Put(place, note_.Bytes().value_or(""));
+    }
     events.ReSortMsg(day);
     if (const auto moved = events.Find(day, event)) {
         RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*moved, day});
@@ -244,7 +255,7 @@ AcceptResult EventEditor::Accept(EventDraft& draft) {
     });
     if (dayFull_) {
         rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                           std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+                           TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
         return AcceptResult::Refused;
     }
     return Finish(result);
@@ -298,7 +309,7 @@ AcceptResult EventEditor::Undo() {
         removed_ = std::move(left);
         if (!removed_.empty()) {
             rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                               std::string(TextOf(ProgramText::DayFull)), DialogIcon::Critical});
+                               TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
         }
     }
     return Finish(result);

@@ -3,6 +3,7 @@
 
 #include "calendar/Selection.h"
 #include "diary/DiaryStore.h"
+#include "diary/EventNote.h"
 #include "diary/ReminderDetails.h"
 #include "language/Kinds.h"
 #include "platform/Dialogs.h"
@@ -52,7 +53,12 @@ public:
         ReminderDetails& Details;
     };
 
-    explicit EventEditor(const Rooms& rooms) : rooms_(rooms) {}
+    explicit EventEditor(const Rooms& rooms)
+        : rooms_(rooms), note_({rooms.Store, rooms.Dates, rooms.Texts, rooms.Boxes}) {}
+
+    // The note of the event being edited. What it holds when a new event is accepted becomes that
+    // event's.
+    [[nodiscard]] EventNote& Note() { return note_; }
 
     // The reminder list: the kinds that can be given, in the order of the kinds.
     [[nodiscard]] std::vector<std::string> BuildRmdList() const;
@@ -96,9 +102,11 @@ private:
     Rooms rooms_;
     CalendarDate date_;
     std::optional<DiaryEvent> original_; // nothing for a new event
-    ReminderExtra extra_;                // RmdExtra
-    std::vector<Removed> removed_;       // by the last deletion
-    std::vector<Removed> removing_;      // by the deletion under way
+    std::optional<ReminderKind> kind_;   // how it reminds; its caption may change its language
+    EventNote note_;
+    ReminderExtra extra_;           // RmdExtra
+    std::vector<Removed> removed_;  // by the last deletion
+    std::vector<Removed> removing_; // by the deletion under way
     bool dayFull_ = false;
 };
 

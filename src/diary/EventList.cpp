@@ -83,10 +83,11 @@ std::optional<int> EventList::UpdateMsg(const SlotPlace& source, const DayPlace&
     return slot;
 }
 
-std::optional<int> EventList::Find(const DayPlace& day, const DiaryEvent& event) const {
+std::optional<int> FindEvent(const DiaryTable& table, const DayPlace& day,
+                             const DiaryEvent& event) {
     std::optional<int> similar;
     for (int slot = 1; slot <= kEventsPerDay; ++slot) {
-        const DiaryEvent& candidate = table_.At({slot, day});
+        const DiaryEvent& candidate = table.At({slot, day});
         if (candidate.IsFree()) {
             continue;
         }

@@ -8,6 +8,11 @@
 
 namespace kestrova {
 
+// The slot 1-10 of a day that holds this event; one that differs only in how it repeats or reminds
+// will do when none is the same in all.
+[[nodiscard]] std::optional<int> FindEvent(const DiaryTable& table, const DayPlace& day,
+                                           const DiaryEvent& event);
+
 // Keeps the events of a day sorted by time and packed into slots 1, 2, 3, ..., each with its note.
 class EventList {
 public:
@@ -35,9 +40,9 @@ public:
         return !table_.At({kEventsPerDay, day}).IsFree();
     }
 
-    // The slot 1-10 of a day that holds this event; one that differs only in how it repeats or
-    // reminds will do when none is the same in all.
-    [[nodiscard]] std::optional<int> Find(const DayPlace& day, const DiaryEvent& event) const;
+    [[nodiscard]] std::optional<int> Find(const DayPlace& day, const DiaryEvent& event) const {
+        return FindEvent(table_, day, event);
+    }
 
 private:
     void Move(const SlotPlace& from, const SlotPlace& to);

@@ -36,4 +36,22 @@ bool IsNoteName(const std::string& name) {
            place.Year < kDiaryYears && GetFile(place) == name;
 }
 
+std::optional<std::string> NoteNameOf(const std::string& fileName) {
+    constexpr char kCaseBit = 0x20;
+    std::string name = fileName;
+    if (name.size() != 4 + kExtension.size()) {
+        return std::nullopt;
+    }
+    const bool late = name[1] >= '2' && name[1] <= '8';
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const bool letter =
+            (name[i] >= 'A' && name[i] <= 'Z') || (name[i] >= 'a' && name[i] <= 'z');
+        const bool small = late || i >= 4;
+        if (letter) {
+            name[i] = static_cast<char>(small ? name[i] | kCaseBit : name[i] & ~kCaseBit);
+        }
+    }
+    return IsNoteName(name) ? std::optional(std::move(name)) : std::nullopt;
+}
+
 } // namespace kestrova

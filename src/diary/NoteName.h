@@ -3,6 +3,7 @@
 
 #include "diary/DiaryTable.h"
 
+#include <optional>
 #include <string>
 
 namespace kestrova {
@@ -13,5 +14,9 @@ namespace kestrova {
 
 // Whether a file's name is one that GetFile gives for some place.
 [[nodiscard]] bool IsNoteName(const std::string& name);
+
+// The name that GetFile gives for the note in a file whose name may have lost its case on the way
+// from another system; nothing when the file is no note.
+[[nodiscard]] std::optional<std::string> NoteNameOf(const std::string& fileName);
 
 } // namespace kestrova

@@ -3,6 +3,7 @@
 
 #include "platform/Result.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,15 @@ struct FileStamp {
 
     bool operator==(const FileStamp&) const = default;
 };
+
+// Whether two names of files are one where the case of the letters A to Z does not count.
+[[nodiscard]] inline bool IsSameName(std::string_view a, std::string_view b) {
+    const auto lower = [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [lower](char x, char y) { return lower(x) == lower(y); });
+}
 
 // An advisory lock, held until the object goes.
 class FileLock {
@@ -70,6 +80,12 @@ public:
     // The names of the files in a folder, in no particular order, folders left out. Empty when
     // there is no such folder.
     [[nodiscard]] virtual std::vector<std::string> List(const std::string& folder) const = 0;
+
+    // The name that an entry of a folder, be it file or folder, has on the disc, when it is asked
+    // for without regard to case (of the letters A to Z). An entry of exactly this name comes
+    // first; of several others, the first in the order of their bytes. Nothing when there is none.
+    [[nodiscard]] virtual std::optional<std::string> FindEntry(const std::string& folder,
+                                                               const std::string& name) const = 0;
 
     // Deletes what writes that a crash has cut short have left in a folder. Only for a folder in
     // which nobody is writing.

@@ -8,12 +8,16 @@
 #include "fakes/SetClock.h"
 #include "language/Kinds.h"
 
+#include <atomic>
+#include <memory>
 #include <string>
 
 namespace kestrova {
 
 inline constexpr const char* kFolder = "/home/me/";
 inline constexpr const char* kDataPath = "/home/me/DiaryDat/Data.dat";
+inline constexpr const char* kBobsFolder = "/net/bob/";
+inline constexpr const char* kBobsPath = "/net/bob/DiaryDat/Data.dat";
 
 inline DiaryEvent MakeEvent(int hour, int minute, const std::string& msg,
                             const std::string& rpt = "Never", const std::string& rmd = "Screen") {
@@ -26,7 +30,8 @@ inline DiaryEvent MakeEvent(int hour, int minute, const std::string& msg,
     return event;
 }
 
-// A diary in memory with its store, empty and saved.
+// A diary in memory with its store, empty and saved. The folders of others answer as long as the
+// network works.
 struct DiaryScene {
     MemoryFileStore Files;
     SetClock Clock;
@@ -34,7 +39,11 @@ struct DiaryScene {
     StringTable Texts = MsgDefaults();
     DiaryFiles OnDisc{Files, Clock};
     int Stops = 0;
-    DiaryStore Store{OnDisc, Boxes, Texts, [this] { ++Stops; }};
+    std::shared_ptr<std::atomic<bool>> Network = std::make_shared<std::atomic<bool>>(true);
+    FolderProbe Probe{
+        kFolder, [network = Network](const std::string& /*folder*/) { return network->load(); },
+        std::chrono::seconds(20)};
+    DiaryStore Store{OnDisc, Boxes, Texts, Probe, [this] { ++Stops; }};
 
     DiaryScene() {
         Files.Put(kDataPath, WriteDiary(DiaryTable()));
@@ -42,24 +51,25 @@ struct DiaryScene {
     }
 
     // Another program writes these events into slots 1, 2, ... of a day.
-    void WriteFromOutside(const DayPlace& day, const std::vector<DiaryEvent>& events) {
-        DiaryTable table = OnFile();
+    void WriteFromOutside(const DayPlace& day, const std::vector<DiaryEvent>& events,
+                          const char* path = kDataPath) {
+        DiaryTable table = OnFile(path);
         for (int slot = 1; slot <= kEventsPerDay; ++slot) {
             const auto i = static_cast<std::size_t>(slot - 1);
             table.At({slot, day}) = i < events.size() ? events[i] : DiaryEvent{};
         }
-        Files.Put(kDataPath, WriteDiary(table));
+        Files.Put(path, WriteDiary(table));
     }
 
-    [[nodiscard]] DiaryTable OnFile() const {
+    [[nodiscard]] DiaryTable OnFile(const char* path = kDataPath) const {
         DiaryTable table;
-        const auto bytes = Files.Content(kDataPath);
+        const auto bytes = Files.Content(path);
         const auto read = ReadDiary(bytes.value_or(""), table);
         return read ? table : DiaryTable();
     }
 
     [[nodiscard]] std::string NotePath(const SlotPlace& place) const {
-        return NoteFolder(kFolder) + GetFile(place);
+        return NoteFolder(Files, kFolder) + GetFile(place);
     }
 
     // Puts an event with a note into a day.

@@ -13,13 +13,14 @@ constexpr const char* kJournalPath = "/home/me/DiaryDat/Saving.tmp";
 
 TEST(DiaryStoreTest, AMissingDiaryIsMadeWithAMessage) {
     DiaryScene scene;
-    scene.Store.GetData("/elsewhere/");
+    (void)scene.Files.Remove(kDataPath);
+    scene.Store.GetData(kFolder);
     ASSERT_EQ(scene.Boxes.Shown.size(), 1U);
     EXPECT_EQ(scene.Boxes.Shown[0].Title, "Kestrova Messenger");
     EXPECT_EQ(scene.Boxes.Shown[0].Text, "Your Diary Data Files Are Corrupt or Missing\n"
                                          " The Files Will Be  Re-Formatted ");
     EXPECT_EQ(scene.Boxes.Shown[0].Icon, DialogIcon::Critical);
-    scene.Store.GetData("/elsewhere/");
+    scene.Store.GetData(kFolder);
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U) << "the new file loads without a message";
 }
 
@@ -168,10 +169,11 @@ TEST(DiaryStoreTest, ADiaryThatArrivesDuringTheMessageIsNotReplaced) {
     DiaryScene scene;
     DiaryTable theirs;
     theirs.At({1, kDay}) = MakeEvent(9, 0, "arrived");
-    scene.Boxes.WhileOpen = [&] { scene.Files.Put("/late/DiaryDat/Data.dat", WriteDiary(theirs)); };
-    scene.Store.GetData("/late/");
+    (void)scene.Files.Remove(kDataPath);
+    scene.Boxes.WhileOpen = [&] { scene.Files.Put(kDataPath, WriteDiary(theirs)); };
+    scene.Store.GetData(kFolder);
     EXPECT_EQ(Messages(scene.Store.Table(), kDay), "arrived");
-    EXPECT_EQ(scene.Files.Content("/late/DiaryDat/Data.dat"), WriteDiary(theirs));
+    EXPECT_EQ(scene.Files.Content(kDataPath), WriteDiary(theirs));
 }
 
 TEST(DiaryStoreTest, ASaveThatCannotBeCompletedIsNotWrittenOver) {
@@ -253,7 +255,7 @@ void CrashEverywhere(Operation operation, Check check) {
         scene.Files.CrashAfter(at);
         operation(scene);
         scene.Files.Recover();
-        DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
+        DiaryStore restarted(scene.OnDisc, scene.Boxes, scene.Texts, scene.Probe, [] {});
         restarted.GetData(kFolder);
         check(scene, restarted);
         EXPECT_FALSE(scene.Files.Content(kJournalPath));
@@ -312,7 +314,7 @@ TEST(DiaryStoreTest, ACrashedRollOverIsFoundOrNeverHappened) {
 TEST(DiaryStoreTest, OfSeveralProgramsOneRollsTheDiaryOver) {
     DiaryScene scene;
     scene.Insert({14, 4, 1}, MakeEvent(9, 0, "next year"));
-    DiaryStore other(scene.OnDisc, scene.Boxes, scene.Texts, [] {});
+    DiaryStore other(scene.OnDisc, scene.Boxes, scene.Texts, scene.Probe, [] {});
     other.GetData(kFolder);
     for (DiaryStore* const store : {&scene.Store, &other, &scene.Store}) {
         EXPECT_EQ(store->BringForward(kFolder, 2025, 2026, SaveMessages::Keep),

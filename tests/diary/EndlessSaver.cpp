@@ -23,7 +23,8 @@ int main(int argc, char** argv) {
     ScriptedDialogs dialogs;
     const StringTable texts = MsgDefaults();
     DiaryFiles diaryFiles(files, clock);
-    DiaryStore store(diaryFiles, dialogs, texts, [] { std::exit(3); });
+    FolderProbe probe(folder, [](const std::string& /*other*/) { return false; });
+    DiaryStore store(diaryFiles, dialogs, texts, probe, [] { std::exit(3); });
     store.GetData(folder);
     if (!dialogs.Shown.empty()) {
         return 4; // a damaged diary, which is what the test is after

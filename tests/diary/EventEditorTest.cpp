@@ -2,7 +2,7 @@
 #include "diary/EventEditor.h"
 
 #include "diary/DayPage.h"
-#include "diary/DiaryScene.h"
+#include "diary/EditorScene.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,55 +11,6 @@ namespace kestrova {
 namespace {
 
 using testing::ElementsAre;
-
-constexpr DayPlace kDay{14, 4, 0};
-
-// Channels that work or do not, as a test wants it.
-struct SetDetails : ReminderDetails {
-    ModemState ModemIs = ModemState::Off;
-    bool Mail = true;
-    bool Sound = false;
-    bool Cd = false;
-    std::vector<std::string> Previews;
-
-    ModemState Modem() const override { return ModemIs; }
-    bool MailWorks() const override { return Mail; }
-    bool SoundWorks() const override { return Sound; }
-    bool VideoWorks() const override { return Sound; }
-    bool CdWorks() const override { return Cd; }
-    bool AskPhoneNumbers(ReminderExtra& extra) override {
-        extra[1] = "5551234";
-        return ModemIs == ModemState::On;
-    }
-    bool AskMailAddress(ReminderExtra& extra) override {
-        extra[2] = "bob@example.org";
-        return true;
-    }
-    void Preview(const std::string& path) override { Previews.push_back(path); }
-};
-
-struct Page : DiaryScene {
-    Selection Dates{2026, 2026, kDay.Month, kDay.Day, 0, 1};
-    AppSettings Settings = FirstSettings(Texts);
-    SetDetails Details;
-    EventEditor Editor{{Store, Dates, Texts, Settings, Boxes, Details}};
-
-    AcceptResult Add(const std::string& hour, const std::string& msg,
-                     const std::string& rpt = "Never", const std::string& rmd = "Screen") {
-        EXPECT_EQ(Editor.BeginNew(), AcceptResult::Accepted);
-        EventDraft draft{hour, "00", msg, rpt, rmd, false};
-        return Editor.Accept(draft);
-    }
-
-    AcceptResult Change(int slot, const std::string& hour, const std::string& msg,
-                        const std::string& rpt = "Never") {
-        EXPECT_EQ(Editor.BeginEdit(slot), AcceptResult::Accepted);
-        EventDraft draft{hour, "00", msg, rpt, "Screen", false};
-        return Editor.Accept(draft);
-    }
-
-    [[nodiscard]] std::string Day() const { return Messages(OnFile(), kDay); }
-};
 
 TEST(EventEditorTest, TimeBoxesTakeTimes) {
     for (const char* const good : {"", "0", "5", "09", "23"}) {
@@ -76,7 +27,7 @@ TEST(EventEditorTest, TimeBoxesTakeTimes) {
 }
 
 TEST(EventEditorTest, NewEventsAreSortedInAndSaved) {
-    Page page;
+    EditorScene page;
     EXPECT_EQ(page.Add("10", "ten"), AcceptResult::Accepted);
     EXPECT_EQ(page.Add("09", "nine"), AcceptResult::Accepted);
     EXPECT_EQ(page.Day(), "nine ten");
@@ -85,14 +36,14 @@ TEST(EventEditorTest, NewEventsAreSortedInAndSaved) {
 }
 
 TEST(EventEditorTest, AnEmptyMessageWritesNothing) {
-    Page page;
+    EditorScene page;
     const int writes = page.Files.Writes();
     EXPECT_EQ(page.Add("10", ""), AcceptResult::Accepted);
     EXPECT_EQ(page.Files.Writes(), writes);
 }
 
 TEST(EventEditorTest, EditsMoveTheEventAndItsNote) {
-    Page page;
+    EditorScene page;
     page.Add("08", "a");
     page.Add("10", "b");
     page.Files.Put(page.NotePath({1, kDay}), "note of a");
@@ -102,7 +53,7 @@ TEST(EventEditorTest, EditsMoveTheEventAndItsNote) {
 }
 
 TEST(EventEditorTest, AnEmptiedMessageDeletesAndUndoBringsItBack) {
-    Page page;
+    EditorScene page;
     page.Add("08", "a");
     page.Add("10", "b");
     page.Files.Put(page.NotePath({1, kDay}), "note of a");
@@ -118,7 +69,7 @@ TEST(EventEditorTest, AnEmptiedMessageDeletesAndUndoBringsItBack) {
 }
 
 TEST(EventEditorTest, AllAlikeAreDeletedTogetherAndComeBackTogether) {
-    Page page;
+    EditorScene page;
     page.Add("08", "daily", "Daily");
     page.Add("09", "other");
     const DiaryTable before = page.OnFile();
@@ -145,7 +96,7 @@ TEST(EventEditorTest, RefusedRepeatsWriteNothing) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.Rpt) + " " + std::to_string(row.Day));
-        Page page;
+        EditorScene page;
         page.Dates = {2028, 2028, row.Month, row.Day, 0, 1};
         const AcceptResult result = page.Add("09", "x", row.Rpt);
         const std::string day = Messages(page.OnFile(), {row.Day, row.Month, 0});
@@ -175,7 +126,7 @@ TEST(EventEditorTest, RemindersThatCannotBeGivenBecomeScreen) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.Rmd);
-        Page page;
+        EditorScene page;
         EXPECT_EQ(page.Add("09", "x", "Never", row.Rmd), AcceptResult::Accepted);
         ASSERT_EQ(page.Boxes.Shown.size(), 1U);
         EXPECT_EQ(page.Boxes.Shown[0].Text, row.Message);
@@ -185,7 +136,7 @@ TEST(EventEditorTest, RemindersThatCannotBeGivenBecomeScreen) {
 }
 
 TEST(EventEditorTest, RemindersCollectTheirDetails) {
-    Page page;
+    EditorScene page;
     page.Settings.SpeechEnabled = 1;
     page.Settings.ModemDescription = "A modem";
     page.Details.ModemIs = ModemState::On;
@@ -209,7 +160,7 @@ TEST(EventEditorTest, RemindersCollectTheirDetails) {
 }
 
 TEST(EventEditorTest, TheReminderListOffersWhatThereIs) {
-    Page page;
+    EditorScene page;
     EXPECT_THAT(page.Editor.BuildRmdList(),
                 ElementsAre("Screen", "Speak", "Phone", "Email", "Media", "Music", "None"));
     page.Details.ModemIs = ModemState::NoModem;
@@ -219,7 +170,7 @@ TEST(EventEditorTest, TheReminderListOffersWhatThereIs) {
 }
 
 TEST(EventEditorTest, AnEleventhEventIsRefusedBeforeAnythingIsWritten) {
-    Page page;
+    EditorScene page;
     for (int i = 0; i < kEventsPerDay; ++i) {
         page.Add("09", "x" + std::to_string(i));
     }
@@ -227,7 +178,7 @@ TEST(EventEditorTest, AnEleventhEventIsRefusedBeforeAnythingIsWritten) {
     EXPECT_EQ(page.Boxes.Shown.size(), 1U);
 
     // The day has filled up only after editing began.
-    Page late;
+    EditorScene late;
     ASSERT_EQ(late.Editor.BeginNew(), AcceptResult::Accepted);
     late.WriteFromOutside(kDay, std::vector<DiaryEvent>(kEventsPerDay, MakeEvent(9, 0, "x")));
     const auto before = late.Files.Content(kDataPath);
@@ -238,7 +189,7 @@ TEST(EventEditorTest, AnEleventhEventIsRefusedBeforeAnythingIsWritten) {
 }
 
 TEST(EventEditorTest, AnEventThatAnotherProgramHasMovedIsFoundAgain) {
-    Page page;
+    EditorScene page;
     page.Add("09", "mine");
     ASSERT_EQ(page.Editor.BeginEdit(1), AcceptResult::Accepted);
     DiaryEvent used = MakeEvent(9, 0, "mine", "Never", "None"); // its reminder was given there
@@ -249,7 +200,7 @@ TEST(EventEditorTest, AnEventThatAnotherProgramHasMovedIsFoundAgain) {
 }
 
 TEST(EventEditorTest, AnEditOfAnEventThatIsGoneIsNotThrownAway) {
-    Page page;
+    EditorScene page;
     page.Add("09", "mine");
     ASSERT_EQ(page.Editor.BeginEdit(1), AcceptResult::Accepted);
     page.WriteFromOutside(kDay, {MakeEvent(8, 0, "theirs")});
@@ -259,7 +210,7 @@ TEST(EventEditorTest, AnEditOfAnEventThatIsGoneIsNotThrownAway) {
 }
 
 TEST(EventEditorTest, ABusyDiaryLeavesTheRowInTheEditor) {
-    Page page;
+    EditorScene page;
     page.Files.HoldLock(kDataPath);
     EXPECT_EQ(page.Add("09", "x"), AcceptResult::Refused);
     EXPECT_EQ(page.Boxes.Shown.at(0).Text, "Diary Busy");
@@ -270,7 +221,7 @@ TEST(EventEditorTest, ABusyDiaryLeavesTheRowInTheEditor) {
 }
 
 TEST(EventEditorTest, DailyEventsAreHiddenFromTheFirst) {
-    Page page;
+    EditorScene page;
     page.Add("09", "x", "Daily");
     EXPECT_EQ(page.OnFile().At({1, kDay}).Hide, 1);
     EXPECT_EQ(page.OnFile().At({1, 15, 4, 0}).Hide, 1);

@@ -117,12 +117,32 @@ std::vector<std::string> MemoryFileStore::List(const std::string& folder) const 
     return names;
 }
 
+std::optional<std::string> MemoryFileStore::FindEntry(const std::string& folder,
+                                                      const std::string& name) const {
+    std::optional<std::string> found;
+    for (const auto& [path, file] : files_) {
+        if (!path.starts_with(folder)) {
+            continue;
+        }
+        const std::string entry =
+            path.substr(folder.size(), path.find('/', folder.size()) - folder.size());
+        if (entry == name) {
+            return name;
+        }
+        if (!found && IsSameName(entry, name)) {
+            found = entry;
+        }
+    }
+    return found;
+}
+
 Result<std::unique_ptr<FileLock>> MemoryFileStore::Lock(const std::string& path, LockKind /*kind*/,
-                                                        std::chrono::milliseconds /*limit*/) {
+                                                        std::chrono::milliseconds limit) {
     if (BeforeLock) {
         BeforeLock();
     }
     if (held_.contains(path)) {
+        Waited += limit;
         return Error{ErrorCode::Busy, path};
     }
     return std::unique_ptr<FileLock>(std::make_unique<HeldLock>(locksHeld_));

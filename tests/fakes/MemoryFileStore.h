@@ -39,6 +39,9 @@ public:
     [[nodiscard]] int Writes() const { return writes_; }
     [[nodiscard]] int LocksHeld() const { return locksHeld_; }
 
+    // How long all locks that were refused have been waited for.
+    std::chrono::milliseconds Waited{0};
+
     // Every path there is.
     [[nodiscard]] std::set<std::string> Paths() const;
 
@@ -50,6 +53,8 @@ public:
     Status MakeFolder(const std::string& path) override;
     [[nodiscard]] std::optional<FileStamp> Stamp(const std::string& path) const override;
     [[nodiscard]] std::vector<std::string> List(const std::string& folder) const override;
+    [[nodiscard]] std::optional<std::string> FindEntry(const std::string& folder,
+                                                       const std::string& name) const override;
     void RemoveLeftovers(const std::string& /*folder*/) override {}
     Result<std::unique_ptr<FileLock>> Lock(const std::string& path, LockKind kind,
                                            std::chrono::milliseconds limit) override;

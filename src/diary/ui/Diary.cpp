@@ -2,43 +2,38 @@
 #include "diary/ui/Diary.h"
 
 #include "diary/DayPage.h"
-#include "diary/Repeats.h"
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
 #include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
-#include "text/Numbers.h"
-#include "ui/Look.h"
 #include "ui/PlainTip.h"
 
-#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QTimer>
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 namespace kestrova {
 
 namespace {
 
-// Selects an item by its text, searching from the last; the first when none has it.
-void Select(QComboBox& list, const std::string& text) {
-    int index = list.count() - 1;
-    while (index > 0 && list.itemText(index) != ToQt(text)) {
-        --index;
+// The wheel and the keys would go through the diaries one by one, loading each, and end up adding
+// one. A choice is made in the open list.
+bool IsUnwantedStep(const QEvent& event) {
+    if (event.type() == QEvent::Wheel) {
+        return true;
     }
-    list.setCurrentIndex(index);
-}
-
-void Fill(QComboBox& list, const std::vector<std::string>& items) {
-    list.clear();
-    for (const std::string& item : items) {
-        list.addItem(ToQt(item));
+    if (event.type() != QEvent::KeyPress) {
+        return false;
     }
-    list.setCurrentIndex(0);
-    // The list may be wider than the box: a repeat must be read to be chosen.
-    list.view()->setMinimumWidth(list.view()->sizeHintForColumn(0) + 2 * look::kSpacing);
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    const bool types = !press.text().isEmpty() && press.text().front().isLetterOrNumber();
+    const int key = press.key();
+    return types || key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home ||
+           key == Qt::Key_End || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
 } // namespace
@@ -46,6 +41,7 @@ void Fill(QComboBox& list, const std::vector<std::string>& items) {
 void Diary::OpenPage() {
     row_ = 0;
     DrawMainPage();
+    DoNetUsers();
     const QRect area = screen()->availableGeometry();
     resize(std::min(width(), area.width()), height());
     move(area.topLeft());
@@ -58,27 +54,41 @@ void Diary::OpenPage() {
 void Diary::LoadCaptions() {
     ApplyCaptions(*this, rooms_.Texts, TipTexts::Leave);
     setWindowTitle(ToQt(rooms_.Texts.Text(texts::kDiaryTitle)));
-    MNU_File->setTitle(ToQt(TextOf(ProgramText::MenuFile)));
-    TextTme->setAccessibleName(ToQt(TextOf(ProgramText::EventHour)));
-    TextTmm->setAccessibleName(ToQt(TextOf(ProgramText::EventMinute)));
+    MNU_File->setTitle(ToQt(TextOf(rooms_.Texts, ProgramText::MenuFile)));
+    TextTme->setAccessibleName(ToQt(TextOf(rooms_.Texts, ProgramText::EventHour)));
+    TextTmm->setAccessibleName(ToQt(TextOf(rooms_.Texts, ProgramText::EventMinute)));
     TextMsg->setAccessibleName(LabMsg->text());
+    CombNet->setAccessibleName(ToQt(TextOf(rooms_.Texts, ProgramText::DiaryShown)));
+    CombNet->setToolTip(CombNet->accessibleName());
     CombRpt->setAccessibleName(LabRpt[0]->text());
     CombRmd->setAccessibleName(LabRmd[0]->text());
     for (QCheckBox* const box : ChkHide) {
         box->setAccessibleName(LabHide->text());
-        box->setToolTip(ToQt(TextOf(ProgramText::HideFromMonth)));
+        box->setToolTip(ToQt(TextOf(rooms_.Texts, ProgramText::HideFromMonth)));
     }
-    MNU_Insert->setText(ToQt(TextOf(ProgramText::MenuNewEvent)));
-    MNU_Delete->setText(ToQt(TextOf(ProgramText::MenuDelete)));
-    MNU_DelAll->setText(ToQt(TextOf(ProgramText::MenuDeleteAll)));
-    MNU_Undo->setText(ToQt(TextOf(ProgramText::MenuUndo)));
+    MNU_Insert->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuNewEvent)));
+    MNU_Delete->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuDelete)));
+    MNU_DelAll->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuDeleteAll)));
+    MNU_Undo->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuUndo)));
+    MNU_New->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuAddNetUser)));
+    MNU_Remove->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuRemoveNetUser)));
     findChild<QAction*>(QStringLiteral("MNU_Exit"))
-        ->setText(ToQt(TextOf(ProgramText::MenuCloseDay)));
+        ->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuCloseDay)));
+    ShowDiaries();
+    if (edit_ != nullptr) {
+        edit_->LoadCaptions();
+    }
+    if (IsEditing()) {
+        RefillLists();
+        ShowHeading();
+        FitTexts();
+    } else if (isVisible()) {
+        DrawMainPage();
+    }
 }
 
-void Diary::FillLists() {
-    Fill(*CombRmd, rooms_.Editor.BuildRmdList());
-    Fill(*CombRpt, BuildRptList(rooms_.Texts, rooms_.Dates.Page()));
+void Diary::ShowHeading() {
+    LabHead->setText(ToQt(DayHeading(rooms_.Texts, rooms_.Dates.Page())));
 }
 
 void Diary::ShowRow(int row, const QString& time, const QString& message, const QString& repeat,
@@ -97,6 +107,12 @@ void Diary::ShowRow(int row, const QString& time, const QString& message, const 
 
 void Diary::DrawMainPage() {
     editSlot_.reset();
+    if (edit_ != nullptr) {
+        edit_->Drop();
+    }
+    if (std::exchange(gone_, false) && FillDiaries()) {
+        hooks_.Changed();
+    }
     FillLists();
     for (QWidget* const control :
          {static_cast<QWidget*>(TextTme), static_cast<QWidget*>(TextTmm),
@@ -105,7 +121,8 @@ void Diary::DrawMainPage() {
         control->hide();
     }
     ComDataAcpt->setEnabled(false);
-    LabHead->setText(ToQt(DayHeading(rooms_.Texts, rooms_.Dates.Page())));
+    ComInfo->setEnabled(false);
+    ShowHeading();
 
     const auto year = rooms_.Dates.PageYearIndex();
     const DayPlace day{rooms_.Dates.PageDay, rooms_.Dates.PageMonth, year.value_or(0)};
@@ -126,114 +143,25 @@ void Diary::DrawMainPage() {
     for (ClickLabel* const label : LabEvent) {
         label->show();
     }
+    MarkNotes();
     PlaceControls();
 }
 
-void Diary::LabEvent_DblClick(int index) {
-    if (IsEditing()) {
-        if (IsDraftChanged()) {
-            return; // Enter and Escape say what is to become of it
+void Diary::MarkNotes() {
+    const auto year = rooms_.Dates.PageYearIndex();
+    const auto slots =
+        year ? rooms_.Store.SlotsWithNotes({rooms_.Dates.PageDay, rooms_.Dates.PageMonth, *year})
+             : std::set<int>();
+    const QString mark = ToQt(TextOf(rooms_.Texts, ProgramText::HasNote));
+    for (int row = 1; row <= kEventsPerDay; ++row) {
+        RowLabel* const label = LabEvent[static_cast<std::size_t>(row)];
+        const bool marked = slots.contains(row);
+        label->SetMark(marked ? NoteMark::Shown : NoteMark::None);
+        if (marked) {
+            label->setToolTip(QStringLiteral("<span>%1<br>%2</span>")
+                                  .arg(label->text().toHtmlEscaped(), mark.toHtmlEscaped()));
+            label->setAccessibleName(label->accessibleName() + u' ' + mark);
         }
-        DrawMainPage();
-    }
-    const AcceptResult begun =
-        index == 0 ? rooms_.Editor.BeginNew() : rooms_.Editor.BeginEdit(index);
-    if (begun == AcceptResult::Refused) {
-        return;
-    }
-    editSlot_ = index;
-    row_ = index;
-    FillDraft();
-    PlaceEditor();
-    LabEvent[static_cast<std::size_t>(index)]->hide();
-    for (ClickLabel* const label : LabEvent) {
-        label->setFocusPolicy(Qt::NoFocus); // the tab key stays in the editor
-    }
-    ComDataAcpt->setEnabled(true);
-    TextMsg->setFocus();
-    TextMsg->end(false);
-}
-
-// Puts the event, or what a new one begins with, into the editor.
-void Diary::FillDraft() {
-    FillLists();
-    EventDraft draft;
-    if (*editSlot_ == 0) {
-        const Selection& dates = rooms_.Dates;
-        if (dates.ShowsToday() && dates.PageDay == dates.TodayDay) {
-            const WallTime now = rooms_.Time.Now();
-            draft.Hour = TwoDigits(now.Hour);
-            draft.Minute = TwoDigits(now.Minute);
-        }
-    } else {
-        const DayPlace day{rooms_.Dates.PageDay, rooms_.Dates.PageMonth,
-                           rooms_.Dates.PageYearIndex().value_or(0)};
-        const DiaryEvent& event = rooms_.Store.Table().At({*editSlot_, day});
-        draft = {TwoDigits(event.Hour), TwoDigits(event.Minute), event.Msg, event.Rpt, event.Rmd,
-                 event.Hide == 1};
-    }
-    TextTme->setText(ToQt(draft.Hour));
-    TextTmm->setText(ToQt(draft.Minute));
-    TextMsg->setText(ToQt(draft.Msg));
-    ChkHide[0]->setChecked(draft.Hide);
-    ChkHide[0]->setEnabled(true);
-    Select(*CombRpt, draft.Rpt);
-    Select(*CombRmd, draft.Rmd);
-    before_ = Draft();
-}
-
-EventDraft Diary::Draft() const {
-    return {PadTime(FromQt(TextTme->text())), PadTime(FromQt(TextTmm->text())),
-            FromQt(TextMsg->text()),          FromQt(CombRpt->currentText()),
-            FromQt(CombRmd->currentText()),   ChkHide[0]->isChecked()};
-}
-
-bool Diary::IsDraftChanged() const {
-    const EventDraft now = Draft();
-    return now.Hour != before_.Hour || now.Minute != before_.Minute || now.Msg != before_.Msg ||
-           now.Rpt != before_.Rpt || now.Rmd != before_.Rmd || now.Hide != before_.Hide;
-}
-
-void Diary::ComDataAcpt_Click() {
-    if (!IsEditing()) {
-        return;
-    }
-    if (*editSlot_ > 0 && !IsDraftChanged()) {
-        // A repeat or reminder that the lists do not offer stays what it is.
-        DrawMainPage();
-        MarkRow(row_);
-        return;
-    }
-    EventDraft draft = Draft();
-    const AcceptResult result = rooms_.Editor.Accept(draft);
-    Select(*CombRmd, draft.Rmd);
-    if (result == AcceptResult::Refused) {
-        TextMsg->setFocus();
-        return;
-    }
-    DrawMainPage();
-    MarkEvent(draft);
-    changed_();
-}
-
-// Stands on the row to which the event has gone.
-void Diary::MarkEvent(const EventDraft& draft) {
-    int row = 0;
-    for (int i = kEventsPerDay; i >= 1; --i) {
-        const auto index = static_cast<std::size_t>(i);
-        if (LabTime[index]->text() == ToQt(draft.Hour + ":" + draft.Minute) &&
-            LabEvent[index]->text() == ToQt(draft.Msg)) {
-            row = i;
-        }
-    }
-    MarkRow(row);
-}
-
-void Diary::TextTime_Change(QLineEdit& box, QString& accepted, int limit) {
-    if (IsTimeText(FromQt(box.text()), limit)) {
-        accepted = box.text();
-    } else {
-        box.setText(accepted);
     }
 }
 
@@ -254,35 +182,31 @@ void Diary::MNU_DelAll_Click() {
     if (rooms_.Editor.DeleteAllAlike() == AcceptResult::Accepted) {
         DrawMainPage();
         MarkRow(0);
-        changed_();
+        hooks_.Changed();
     }
 }
 
 void Diary::MNU_Undo_Click() {
     if (!IsEditing() && rooms_.Editor.Undo() == AcceptResult::Accepted) {
         DrawMainPage();
-        changed_();
+        hooks_.Changed();
     }
 }
 
-// The window's close button, the menu's Exit and an Escape outside the editor come here. What has
-// been typed is not thrown away: it is saved, or the editor stays.
+// The window's close button, the menu's Exit and an Escape outside the editor come here.
 void Diary::reject() {
-    if (IsEditing() && IsDraftChanged()) {
-        const bool save =
-            rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kDiaryTitle),
-                              std::string(TextOf(ProgramText::SaveEdit)), DialogIcon::Question},
-                             {std::string(TextOf(ProgramText::KeepEdit)),
-                              std::string(TextOf(ProgramText::GoOnEditing))});
-        if (save) {
-            ComDataAcpt_Click();
-        }
-        if (IsEditing()) {
-            return;
-        }
+    if (EndsEdit()) {
+        QDialog::reject();
     }
-    DrawMainPage();
-    QDialog::reject();
+}
+
+void Diary::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && isVisible()) {
+        // Not from within the event: filling the list may show a message.
+        QMetaObject::invokeMethod(
+            this, [this] { DoNetUsers(); }, Qt::QueuedConnection);
+    }
+    QDialog::changeEvent(event);
 }
 
 void Diary::keyPressEvent(QKeyEvent* event) {
@@ -291,7 +215,7 @@ void Diary::keyPressEvent(QKeyEvent* event) {
     if (IsEditing() && (enter || key == Qt::Key_Escape)) {
         if (enter) {
             ComDataAcpt_Click();
-        } else {
+        } else if (LeavesEdit()) {
             DrawMainPage();
             MarkRow(row_);
         }
@@ -327,6 +251,12 @@ bool Diary::eventFilter(QObject* watched, QEvent* event) {
                 row_ = row;
             }
         }
+    }
+    if (watched == CombNet && IsUnwantedStep(*event)) {
+        if (event->type() == QEvent::KeyPress) {
+            CombNet->showPopup();
+        }
+        return true;
     }
     return QDialog::eventFilter(watched, event);
 }

@@ -4,8 +4,10 @@
 #include "calendar/Selection.h"
 #include "diary/DiaryStore.h"
 #include "diary/EventEditor.h"
+#include "diary/SharedDiaries.h"
+#include "diary/ui/Edit.h"
+#include "diary/ui/RowLabel.h"
 #include "platform/Clock.h"
-#include "ui/ClickLabel.h"
 #include "ui/ElidedLabel.h"
 
 #include <QCheckBox>
@@ -17,6 +19,8 @@
 
 #include <array>
 #include <functional>
+#include <string>
+#include <vector>
 
 class QMenuBar;
 
@@ -30,14 +34,20 @@ public:
         const Selection& Dates;
         const StringTable& Texts;
         const AppSettings& Settings;
-        const DiaryStore& Store;
+        DiaryStore& Store;
+        SharedDiaries& Shared;
         EventEditor& Editor;
         const Clock& Time;
         Dialogs& Boxes;
     };
 
-    // `changed` is called when the diary has been changed from here.
-    Diary(QWidget* parent, const Rooms& rooms, std::function<void()> changed);
+    struct Hooks {
+        std::function<void()> Changed; // the diary has been changed here, or is another one now
+        std::function<void(const std::string& text)> Speak; // reads a note aloud
+    };
+
+    Diary(QWidget* parent, const Rooms& rooms, Hooks hooks);
+    ~Diary() override;
 
     // Shows the page of the page date at the top left of the screen.
     void OpenPage();
@@ -47,6 +57,13 @@ public:
 
     [[nodiscard]] bool IsEditing() const { return editSlot_.has_value(); }
 
+    // Fills the list of diaries. When the one shown is no longer there, "My Diary" is shown again,
+    // at once or as soon as the row that is edited no longer is.
+    void DoNetUsers();
+
+    // Saves what has been typed into the note of the event being edited. Whether it is saved.
+    bool SaveNote(SaveMessages messages);
+
     void LoadCaptions();
 
     void reject() override;
@@ -55,34 +72,56 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void BuildRows();
     void BuildEditor();
+    void BuildButtons();
     void BuildMenus();
     void PlaceControls();
+    void PlaceButtons();
+    void FitTexts();
     void PlaceEditor();
     void ShowRow(int row, const QString& time, const QString& message, const QString& repeat,
                  const QString& reminder);
+    void ShowHeading();
+    void MarkNotes();
     void FillLists();
+    void RefillLists();
     void FillDraft();
     void MarkRow(int row);
     void MarkEvent(const EventDraft& draft);
     void MoveRow(int step);
     [[nodiscard]] EventDraft Draft() const;
     [[nodiscard]] bool IsDraftChanged() const;
+    [[nodiscard]] bool LeavesEdit();
+    [[nodiscard]] bool EndsEdit();
     [[nodiscard]] int RowTop(int row) const;
 
     void LabEvent_DblClick(int index);
     void ComDataAcpt_Click();
+    void ComInfo_Click();
     void TextTime_Change(QLineEdit& box, QString& accepted, int limit);
     void MNU_File_Click();
     void MNU_Delete_Click();
     void MNU_DelAll_Click();
     void MNU_Undo_Click();
 
+    [[nodiscard]] bool FillDiaries();
+    void ShowDiaries();
+    void SwitchTo(const std::string& name);
+    void Refuse(RegisterResult result, const std::string& name);
+    void CombNet_Click(int index);
+    void MNU_New_Click();
+    void MNU_Remove_Click();
+
     Rooms rooms_;
-    std::function<void()> changed_;
+    Hooks hooks_;
+    std::string NetUserName{kMyDiary}; // the diary shown, as the register calls it
+    std::vector<std::string> offered_; // the diaries in the list, likewise
+    bool fillsDiaries_ = false;
+    bool gone_ = false;           // the diary shown, while a row of it is edited
     std::optional<int> editSlot_; // EditSlot: the row being edited, 0 for a new event
     EventDraft before_;           // what the editor was filled with
     int row_ = 0;                 // the row on which the keyboard stands
@@ -93,9 +132,9 @@ private:
     QWidget* page_ = nullptr;
     QLabel* LabHead = nullptr;
     QLabel* LabMsg = nullptr;
-    QLabel* LabHide = nullptr;
-    std::array<QLabel*, kEventsPerDay + 1> LabTime{};
-    std::array<ClickLabel*, kEventsPerDay + 1> LabEvent{};
+    ElidedLabel* LabHide = nullptr;
+    std::array<ElidedLabel*, kEventsPerDay + 1> LabTime{};
+    std::array<RowLabel*, kEventsPerDay + 1> LabEvent{};
     std::array<ElidedLabel*, kEventsPerDay + 1> LabRpt{};
     std::array<ElidedLabel*, kEventsPerDay + 1> LabRmd{};
     std::array<QCheckBox*, kEventsPerDay + 1> ChkHide{};
@@ -105,12 +144,17 @@ private:
     QLineEdit* TextMsg = nullptr;
     QComboBox* CombRpt = nullptr;
     QComboBox* CombRmd = nullptr;
+    QComboBox* CombNet = nullptr;
     QPushButton* ComDataAcpt = nullptr;
+    QPushButton* ComInfo = nullptr;
+    Edit* edit_ = nullptr; // made on first use
     QMenu* MNU_File = nullptr;
     QAction* MNU_Insert = nullptr;
     QAction* MNU_Delete = nullptr;
     QAction* MNU_DelAll = nullptr;
     QAction* MNU_Undo = nullptr;
+    QAction* MNU_New = nullptr;
+    QAction* MNU_Remove = nullptr;
 };
 
 } // namespace kestrova

@@ -2,14 +2,18 @@
 // How the day page is put together, and where its controls stand.
 #include "diary/ui/Diary.h"
 
-#include "platform/qt/QtText.h"
+#include "diary/ui/FitText.h"
+#include "diary/ui/SlimComboBox.h"
 #include "ui/Look.h"
 #include "ui/Names.h"
+#include "ui/PlainTip.h"
 #include "ui/Twips.h"
 
 #include <QMenuBar>
 #include <QPainter>
 #include <QResizeEvent>
+
+#include <algorithm>
 
 namespace kestrova {
 
@@ -20,9 +24,11 @@ constexpr int kRowsTop = 840;   // of the headings; row i stands i rows below
 constexpr int kTimeLeft = 300;
 constexpr int kTimeWidth = 900;
 constexpr int kEventLeft = 1300;
-constexpr int kEventIndent = 6; // pixels
+constexpr int kTimeIndent = 8; // pixels
+constexpr int kEventIndent = 6;
 constexpr int kAddTop = 4305;
 constexpr int kAddHeight = 500;
+constexpr int kDiariesTop = 4620;
 constexpr int kButtonsTop = 5000;
 constexpr int kButtonHeight = 450;
 constexpr int kPageHeight = 5650;
@@ -56,39 +62,28 @@ protected:
     }
 };
 
-// A row's message; framed when the keyboard stands on it.
-class RowLabel : public ClickLabel {
-public:
-    using ClickLabel::ClickLabel;
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override {
-        if (hasFocus() || (underMouse() && focusPolicy() != Qt::NoFocus)) {
-            QPainter painter(this);
-            const QColor accent = look::Accent(palette());
-            painter.fillRect(rect(), look::Faded(accent, hasFocus() ? 0.25 : 0.12));
-            painter.fillRect(0, 0, 3, height(), accent);
-        }
-        PaintElided(*this);
-    }
-};
-
 } // namespace
 
-Diary::Diary(QWidget* parent, const Rooms& rooms, std::function<void()> changed)
-    : QDialog(parent), rooms_(rooms), changed_(std::move(changed)) {
+Diary::Diary(QWidget* parent, const Rooms& rooms, Hooks hooks)
+    : QDialog(parent), rooms_(rooms), hooks_(std::move(hooks)) {
     setObjectName(QStringLiteral("Diary"));
     setWindowModality(Qt::WindowModal);
     menus_ = new QMenuBar(this);
     page_ = new Page(this);
     BuildRows();
     BuildEditor();
+    BuildButtons();
     BuildMenus();
     LoadCaptions();
     const int menuHeight = menus_->sizeHint().height();
     setMinimumWidth(Pixels(kLeastPageWidth));
     setFixedHeight(Pixels(kPageHeight) + menuHeight);
     resize(Pixels(kPageWidth), height());
+}
+
+// Whatever ends the program, the note that is being written is kept.
+Diary::~Diary() {
+    (void)SaveNote(SaveMessages::Keep);
 }
 
 void Diary::BuildRows() {
@@ -105,15 +100,18 @@ void Diary::BuildRows() {
     LabHead->setFont(large);
     LabHead->setAlignment(Qt::AlignCenter);
     LabMsg = label(QStringLiteral("LabMsg"));
-    LabHide = label(QStringLiteral("LabHide"));
+    const auto column = [this](const QString& name) {
+        auto* const made = new ElidedLabel(page_);
+        made->setObjectName(name);
+        return made;
+    };
+    LabHide = column(QStringLiteral("LabHide"));
     for (int i = 0; i <= kEventsPerDay; ++i) {
         const auto index = static_cast<std::size_t>(i);
-        LabTime[index] = label(ArrayName("LabTime", i));
-        LabTime[index]->setIndent(8);
-        LabRpt[index] = new ElidedLabel(page_);
-        LabRpt[index]->setObjectName(ArrayName("LabRpt", i));
-        LabRmd[index] = new ElidedLabel(page_);
-        LabRmd[index]->setObjectName(ArrayName("LabRmd", i));
+        LabTime[index] = column(ArrayName("LabTime", i));
+        LabTime[index]->setIndent(kTimeIndent);
+        LabRpt[index] = column(ArrayName("LabRpt", i));
+        LabRmd[index] = column(ArrayName("LabRmd", i));
         auto* const row = new RowLabel(page_);
         row->setObjectName(ArrayName("LabEvent", i));
         row->setTextFormat(Qt::PlainText);
@@ -135,10 +133,8 @@ void Diary::BuildRows() {
     }
     QFont bold = font();
     bold.setBold(true);
-    for (QLabel* const heading :
-         {LabMsg, LabHide, LabTime[0], static_cast<QLabel*>(LabRpt[0]),
-          static_cast<QLabel*>(LabRmd[0]), static_cast<QLabel*>(LabEvent[0])}) {
-        heading->setFont(bold);
+    for (QLabel* const heading : {LabMsg, static_cast<QLabel*>(LabEvent[0])}) {
+        heading->setFont(bold); // FitTexts sees to those with little room
     }
     LabEvent[0]->setFocusPolicy(Qt::TabFocus);
     LabEvent[0]->setCursor(Qt::PointingHandCursor);
@@ -156,25 +152,38 @@ void Diary::BuildEditor() {
     TextMsg = box("TextMsg");
     TextTme->setAlignment(Qt::AlignCenter);
     TextTmm->setAlignment(Qt::AlignCenter);
-    CombRpt = new QComboBox(page_);
+    CombRpt = new SlimComboBox(page_);
     CombRpt->setObjectName(QStringLiteral("CombRpt"));
-    CombRmd = new QComboBox(page_);
+    CombRmd = new SlimComboBox(page_);
     CombRmd->setObjectName(QStringLiteral("CombRmd"));
-    ComDataAcpt = new QPushButton(page_);
-    ComDataAcpt->setObjectName(QStringLiteral("ComDataAcpt"));
-    ComDataAcpt->setAutoDefault(false);
     connect(TextTme, &QLineEdit::textChanged, this,
             [this] { TextTime_Change(*TextTme, acceptedHour_, kMaxHour); });
     connect(TextTmm, &QLineEdit::textChanged, this,
             [this] { TextTime_Change(*TextTmm, acceptedMinute_, kMaxMinute); });
-    connect(ComDataAcpt, &QPushButton::clicked, this, [this] { ComDataAcpt_Click(); });
     TextTme->installEventFilter(this);
     TextTmm->installEventFilter(this);
+}
+
+void Diary::BuildButtons() {
+    const auto button = [this](const char* name, void (Diary::*handler)()) {
+        auto* const made = new QPushButton(page_);
+        made->setObjectName(QLatin1String(name));
+        made->setAutoDefault(false);
+        connect(made, &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
+        return made;
+    };
+    ComDataAcpt = button("ComDataAcpt", &Diary::ComDataAcpt_Click);
+    ComInfo = button("ComInfo", &Diary::ComInfo_Click);
+    CombNet = new QComboBox(page_);
+    CombNet->setObjectName(QStringLiteral("CombNet"));
+    CombNet->installEventFilter(this);
+    connect(CombNet, &QComboBox::activated, this, [this](int index) { CombNet_Click(index); });
     QWidget* previous = TextTme;
     for (QWidget* const next :
          {static_cast<QWidget*>(TextTmm), static_cast<QWidget*>(TextMsg),
           static_cast<QWidget*>(CombRpt), static_cast<QWidget*>(CombRmd),
-          static_cast<QWidget*>(ChkHide[0]), static_cast<QWidget*>(ComDataAcpt)}) {
+          static_cast<QWidget*>(ChkHide[0]), static_cast<QWidget*>(ComDataAcpt),
+          static_cast<QWidget*>(ComInfo), static_cast<QWidget*>(CombNet)}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -198,6 +207,9 @@ void Diary::BuildMenus() {
     MNU_DelAll = entry("MNU_DelAll", &Diary::MNU_DelAll_Click);
     MNU_Undo = entry("MNU_Undo", &Diary::MNU_Undo_Click);
     MNU_Undo->setShortcut(QKeySequence::Undo);
+    MNU_File->addSeparator();
+    MNU_New = entry("MNU_New", &Diary::MNU_New_Click);
+    MNU_Remove = entry("MNU_Remove", &Diary::MNU_Remove_Click);
     MNU_File->addSeparator();
     entry("MNU_Exit", &Diary::reject)->setShortcut(QKeySequence::Close);
     connect(MNU_File, &QMenu::aboutToShow, this, [this] { MNU_File_Click(); });
@@ -225,7 +237,8 @@ void Diary::PlaceControls() {
     for (int row = 0; row <= kEventsPerDay; ++row) {
         const auto i = static_cast<std::size_t>(row);
         const int top = RowTop(row);
-        place(LabTime[i], kTimeLeft, top, kTimeWidth);
+        // The heading has the room up to the first letter of the next.
+        place(LabTime[i], kTimeLeft, top, row == 0 ? kEventLeft - kTimeLeft : kTimeWidth);
         place(LabRpt[i], width - 3100, top, 1350);
         place(LabRmd[i], width - 1700, top, 1050);
         if (row > 0) {
@@ -238,10 +251,46 @@ void Diary::PlaceControls() {
     LabEvent[0]->setGeometry(Pixels(kEventLeft), Pixels(kAddTop), Pixels(width - 4500),
                              Pixels(kAddHeight));
     place(ChkHide[0], width - 600, Pixels(kAddTop), 400);
-    ComDataAcpt->setGeometry(Pixels(kTimeLeft), Pixels(kButtonsTop), Pixels(2700),
-                             Pixels(kButtonHeight));
+    place(CombNet, width - 2800, Pixels(kDiariesTop), 2500);
+    PlaceButtons();
+    FitTexts();
     if (IsEditing()) {
         PlaceEditor();
+    }
+}
+
+// Four of equal width stand side by side; two of them are the pictures' and not there yet.
+void Diary::PlaceButtons() {
+    constexpr int kPlaces = 4;
+    constexpr int kGap = 100;
+    const int width = (Twips(page_->width()) - 2 * kTimeLeft - (kPlaces - 1) * kGap) / kPlaces;
+    int left = kTimeLeft;
+    for (QPushButton* const button : {ComDataAcpt, ComInfo}) {
+        button->setGeometry(Pixels(left), Pixels(kButtonsTop), Pixels(width),
+                            Pixels(kButtonHeight));
+        left += width + kGap;
+    }
+}
+
+// Where there is little room, texts get smaller before they are cut, and cut ones have a tip.
+void Diary::FitTexts() {
+    constexpr int kButtonPadding = 8; // pixels
+    QFont bold = font();
+    bold.setBold(true);
+    for (ElidedLabel* const heading : {LabTime[0], LabRpt[0], LabRmd[0], LabHide}) {
+        const int room = heading->width() - std::max(heading->indent(), 0);
+        heading->setFont(FittingFont(bold, heading->text(), room));
+        heading->setToolTip(PlainTip(heading->text()));
+    }
+    LabEvent[0]->setFont(
+        FittingFont(bold, LabEvent[0]->text(), LabEvent[0]->width() - kEventIndent));
+    for (std::size_t row = 1; row <= kEventsPerDay; ++row) {
+        for (ElidedLabel* const label : {LabRpt[row], LabRmd[row]}) {
+            label->setFont(FittingFont(font(), label->text(), label->width()));
+        }
+    }
+    for (QPushButton* const button : {ComDataAcpt, ComInfo}) {
+        button->setFont(FittingFont(font(), button->text(), button->width() - 2 * kButtonPadding));
     }
 }
 

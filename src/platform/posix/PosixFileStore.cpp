@@ -272,6 +272,26 @@ std::vector<std::string> PosixFileStore::List(const std::string& folder) const {
     return names;
 }
 
+std::optional<std::string> PosixFileStore::FindEntry(const std::string& folder,
+                                                     const std::string& name) const {
+    struct stat info {};
+    if (::stat((folder + name).c_str(), &info) == 0) {
+        return name;
+    }
+    std::optional<std::string> found;
+    DIR* const handle = ::opendir(folder.c_str());
+    if (handle == nullptr) {
+        return found;
+    }
+    while (const dirent* const entry = ::readdir(handle)) {
+        if (IsSameName(entry->d_name, name) && (!found || entry->d_name < *found)) {
+            found = entry->d_name;
+        }
+    }
+    ::closedir(handle);
+    return found;
+}
+
 void PosixFileStore::RemoveLeftovers(const std::string& folder) {
     constexpr std::size_t kTail = kTemporaryMark.size() + 6;
     for (const std::string& name : List(folder)) {

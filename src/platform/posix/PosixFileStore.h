@@ -16,6 +16,8 @@ public:
     Status MakeFolder(const std::string& path) override;
     [[nodiscard]] std::optional<FileStamp> Stamp(const std::string& path) const override;
     [[nodiscard]] std::vector<std::string> List(const std::string& folder) const override;
+    [[nodiscard]] std::optional<std::string> FindEntry(const std::string& folder,
+                                                       const std::string& name) const override;
     void RemoveLeftovers(const std::string& folder) override;
     Result<std::unique_ptr<FileLock>> Lock(const std::string& path, LockKind kind,
                                            std::chrono::milliseconds limit) override;

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/ui/Diary.h"
 
-#include "diary/DiaryScene.h"
+#include "diary/ui/PageScene.h"
 #include "diary/ui/ScreenReminder.h"
-#include "platform/qt/QtText.h"
 #include "ui/Twips.h"
 
 #include <QApplication>
@@ -15,55 +14,6 @@
 
 namespace kestrova {
 namespace {
-
-constexpr DayPlace kDay{14, 4, 0};
-
-struct NoDetails : ReminderDetails {
-    ModemState Modem() const override { return ModemState::Off; }
-    bool MailWorks() const override { return false; }
-    bool SoundWorks() const override { return false; }
-    bool VideoWorks() const override { return false; }
-    bool CdWorks() const override { return false; }
-    bool AskPhoneNumbers(ReminderExtra& /*extra*/) override { return false; }
-    bool AskMailAddress(ReminderExtra& /*extra*/) override { return false; }
-    void Preview(const std::string& /*path*/) override {}
-};
-
-// The day page of 14 May 2026 on a diary in memory.
-struct PageScene : DiaryScene {
-    Selection Dates{2026, 2026, kDay.Month, kDay.Day, 4, 13};
-    AppSettings Settings = FirstSettings(Texts);
-    NoDetails Details;
-    EventEditor Editor{{Store, Dates, Texts, Settings, Boxes, Details}};
-    int Changes = 0;
-    Diary Window{
-        nullptr, {Dates, Texts, Settings, Store, Editor, Clock, Boxes}, [this] { ++Changes; }};
-
-    PageScene() {
-        Window.OpenPage();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
-    }
-
-    template<typename Control> [[nodiscard]] Control* Find(const char* name) const {
-        auto* const control = Window.findChild<Control*>(QLatin1String(name));
-        EXPECT_NE(control, nullptr) << name;
-        return control;
-    }
-
-    [[nodiscard]] std::string Text(const char* label) const {
-        return FromQt(Find<QLabel>(label)->text());
-    }
-
-    void Click(const char* label) { QTest::mouseClick(Find<QLabel>(label), Qt::LeftButton); }
-
-    // Types a new event and accepts it by Enter.
-    void Add(const char* hour, const char* msg) {
-        Click("LabEvent(0)");
-        Find<QLineEdit>("TextTme")->setText(QLatin1String(hour));
-        QTest::keyClicks(Find<QLineEdit>("TextMsg"), QLatin1String(msg));
-        QTest::keyClick(Find<QLineEdit>("TextMsg"), Qt::Key_Return);
-    }
-};
 
 TEST(DiaryWindowTest, AnEmptyDayShowsTenEmptyRowsAndTheAddLine) {
     PageScene page;
@@ -94,6 +44,7 @@ TEST(DiaryWindowTest, ControlsStandAtTheirPlaces) {
         {"LabRpt(4)", width - 3100, 2100, -1},  {"LabRmd(10)", width - 1700, 3990, -1},
         {"ChkHide(10)", width - 600, 3990, -1}, {"LabNum(0)", -1, 1140, -1},
         {"LabEvent(0)", 1300, 4305, -1},        {"ComDataAcpt", -1, 5000, -1},
+        {"CombNet", width - 2800, 4620, 2500},  {"ComInfo", -1, 5000, -1},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.Name);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/posix/PosixFileStore.h"
 
+#include "platform/posix/FolderAnswers.h"
 #include "platform/posix/OtherProcess.h"
 #include "platform/posix/TemporaryFolder.h"
 
@@ -255,6 +256,30 @@ TEST_F(PosixFileStoreTest, AListHoldsFilesAndWhatLeadsToFiles) {
     EXPECT_TRUE(files_.Remove(folder_ / "One.dat"));
     EXPECT_FALSE(files_.Remove(folder_ / "Folder"));
     EXPECT_THAT(files_.List(folder_ / "Folder/"), UnorderedElementsAre("Inner.dat"));
+}
+
+TEST_F(PosixFileStoreTest, EntriesAreFoundWhateverTheirCase) {
+    folder_.Write("DATA.DAT", "1");
+    folder_.Write("data.dat", "2");
+    folder_.Write("Zw\xC3\xB6lf.txt", "x");
+    ASSERT_TRUE(files_.MakeFolder(folder_ / "diarydat"));
+    EXPECT_EQ(files_.FindEntry(folder_.Path(), "data.dat"), "data.dat") << "the exact one first";
+    EXPECT_EQ(files_.FindEntry(folder_.Path(), "Data.dat"), "DATA.DAT");
+    EXPECT_EQ(files_.FindEntry(folder_.Path(), "DiaryDat"), "diarydat");
+    EXPECT_EQ(files_.FindEntry(folder_.Path(), "zw\xC3\xB6LF.TXT"), "Zw\xC3\xB6lf.txt");
+    EXPECT_EQ(files_.FindEntry(folder_.Path(), "Data.da"), std::nullopt);
+    EXPECT_EQ(files_.FindEntry(folder_ / "none/", "Data.dat"), std::nullopt);
+}
+
+TEST_F(PosixFileStoreTest, AFolderAnswersWhenItIsThere) {
+    folder_.Write("File", "x");
+    ASSERT_TRUE(files_.MakeFolder(folder_ / "Closed"));
+    ::chmod((folder_ / "Closed").c_str(), 0111);
+    EXPECT_TRUE(FolderAnswers(folder_.Path()));
+    EXPECT_FALSE(FolderAnswers(folder_ / "none/"));
+    EXPECT_FALSE(FolderAnswers(folder_ / "File"));
+    EXPECT_EQ(AsReader([&] { return FolderAnswers(folder_ / "Closed/") ? 1 : 0; }), 1)
+        << "it cannot be listed, but what is in it can be reached";
 }
 
 class PosixLockTest : public PosixFileStoreTest {
