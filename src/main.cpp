@@ -18,12 +18,14 @@ int main(int argc, char** argv) {
     if (link.Join() == kestrova::InstanceRole::Newcomer) {
         return 0;
     }
-    // The whole command line is one path, blanks and all.
-    const QString mediaFile = QApplication::arguments().mid(1).join(QLatin1Char(' '));
-    kestrova::Program program(kestrova::FindDataFolder(), kestrova::FromQt(mediaFile), link);
+    // The whole command line is one path, blanks and all, unless the session starts the program.
+    QStringList words = QApplication::arguments().mid(1);
+    const bool hidden = words.removeAll(QStringLiteral("--hidden")) > 0;
+    kestrova::Program program(kestrova::FindDataFolder(),
+                              kestrova::FromQt(words.join(QLatin1Char(' '))), link);
     const kestrova::SignalWatch signals([&program] { program.End(); });
     // The desktop says when the session ends, too.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
                      [&program] { program.End(); });
-    return program.Run();
+    return program.Run(hidden ? kestrova::FirstShow::Hidden : kestrova::FirstShow::Shown);
 }

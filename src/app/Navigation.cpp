@@ -3,6 +3,7 @@
 
 #include "calendar/MonthSheet.h"
 #include "language/ProgramTexts.h"
+#include "language/Texts.h"
 #include "text/Numbers.h"
 
 #include <algorithm>
@@ -49,10 +50,11 @@ bool ShowYear(Selection& dates, int year) {
     return MoveTo(dates, CalendarDate{year, dates.TodayMonth, dates.PageDay});
 }
 
-std::optional<int> AskYear(Dialogs& dialogs, const std::string& title, int offered) {
+std::optional<int> AskYear(Dialogs& dialogs, const StringTable& texts, int offered) {
     for (;;) {
-        const auto answer = dialogs.Input(title, std::string(TextOf(ProgramText::YearPrompt)),
-                                          std::to_string(offered));
+        const auto answer =
+            dialogs.Input(texts.Text(texts::kProgramTitle), TextOf(texts, ProgramText::YearPrompt),
+                          std::to_string(offered));
         if (!answer || Trim(*answer).empty()) {
             return std::nullopt;
         }

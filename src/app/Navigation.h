@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calendar/Selection.h"
+#include "language/StringTable.h"
 #include "platform/Dialogs.h"
 
 #include <optional>
@@ -21,6 +22,6 @@ bool ShowToday(Selection& dates);
 bool ShowYear(Selection& dates, int year);
 
 // Asks for a year until the answer is one that can be shown. Nothing when the answer is empty.
-[[nodiscard]] std::optional<int> AskYear(Dialogs& dialogs, const std::string& title, int offered);
+[[nodiscard]] std::optional<int> AskYear(Dialogs& dialogs, const StringTable& texts, int offered);
 
 } // namespace kestrova

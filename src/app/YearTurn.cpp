@@ -30,11 +30,12 @@ void YearTurn::YearUpdate() {
 }
 
 void YearTurn::SettleWithClockBehind(int dataYear, int clockYear) {
-    const bool byTheClock = rooms_.Boxes.Ask(
-        {rooms_.Texts.Text(texts::kMessengerTitle),
-         TextOf(ProgramText::ClockBehind, std::to_string(clockYear)), DialogIcon::Question},
-        {std::string(TextOf(ProgramText::GoByTheClock)),
-         std::string(TextOf(ProgramText::KeepTheYear))});
+    const bool byTheClock =
+        rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kMessengerTitle),
+                          TextOf(rooms_.Texts, ProgramText::ClockBehind, std::to_string(clockYear)),
+                          DialogIcon::Question},
+                         {TextOf(rooms_.Texts, ProgramText::GoByTheClock),
+                          TextOf(rooms_.Texts, ProgramText::KeepTheYear)});
     if (byTheClock && rooms_.Store.SetYear(rooms_.DataFolder, clockYear) == ChangeResult::Saved) {
         Settle(clockYear);
     } else {

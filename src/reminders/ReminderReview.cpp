@@ -173,8 +173,8 @@ bool ReminderReview::Announce(const DiaryEvent& event) {
     speech.SetStopSpeaking(false);
     speech.Show();
     for (const std::string& text :
-         {std::string(TextOf(ProgramText::ReminderService)), event.Msg,
-          std::string(TextOf(ProgramText::SpokenAt)), SpokenTime(event)}) {
+         {TextOf(rooms_.Texts, ProgramText::ReminderService), event.Msg,
+          TextOf(rooms_.Texts, ProgramText::SpokenAt), SpokenTime(event)}) {
         speech.Speak(text);
     }
     const bool acknowledged =

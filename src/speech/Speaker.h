@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace kestrova {
 
@@ -12,6 +13,9 @@ enum class AfterSpeaking { Stay, Hide };
 class Speaker {
 public:
     virtual ~Speaker() = default;
+
+    // The names of the characters that there are to choose from.
+    [[nodiscard]] virtual std::vector<std::string> Characters() const = 0;
 
     // Loads the character that the settings name; false when none can be had.
     virtual bool LoadCharacter() = 0;

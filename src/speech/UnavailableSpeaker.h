@@ -8,6 +8,7 @@ namespace kestrova {
 // The speaker of a program that cannot speak: there is no character, and none can be loaded.
 class UnavailableSpeaker : public Speaker {
 public:
+    [[nodiscard]] std::vector<std::string> Characters() const override { return {}; }
     bool LoadCharacter() override { return false; }
     [[nodiscard]] bool AgentLoaded() const override { return false; }
     [[nodiscard]] bool IsVisible() const override { return false; }

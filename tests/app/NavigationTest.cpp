@@ -91,7 +91,7 @@ TEST(NavigationTest, AYearIsAskedForUntilItCanBeShown) {
         SCOPED_TRACE(row.Name);
         ScriptedDialogs dialogs;
         dialogs.Inputs = row.Answers;
-        EXPECT_EQ(AskYear(dialogs, "Kestrova", 2026), row.Year);
+        EXPECT_EQ(AskYear(dialogs, MsgDefaults(), 2026), row.Year);
         EXPECT_EQ(dialogs.Prompts, std::vector<std::string>(row.Prompts, "Year ? 2026"));
     }
 }

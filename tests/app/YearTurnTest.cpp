@@ -17,7 +17,7 @@ struct Started {
     SettingsStore SettingsOnDisc{Scene.Files, Scene.Clock, Scene.Boxes, Scene.Texts, kSettingsPath};
     AppSettings Settings = FirstSettings(Scene.Texts);
     Selection Dates;
-    DiaryStore Store{Scene.OnDisc, Scene.Boxes, Scene.Texts, [] {}};
+    DiaryStore Store{Scene.OnDisc, Scene.Boxes, Scene.Texts, Scene.Probe, [] {}};
     std::string Folder = kFolder;
     YearTurn Turn{{Store, SettingsOnDisc, Settings, Dates, Scene.Boxes, Scene.Texts, Folder}};
 

@@ -20,6 +20,7 @@ struct RecordingSpeaker : Speaker {
     std::vector<std::string> Spoken;
     std::vector<std::string> Told;
 
+    [[nodiscard]] std::vector<std::string> Characters() const override { return {}; }
     bool LoadCharacter() override { return Loaded; }
     bool AgentLoaded() const override { return Loaded; }
     bool IsVisible() const override { return Visible; }

@@ -278,8 +278,7 @@ void FormCal::LabYrRtd_Click() {
 }
 
 void FormCal::LabCurMth_DblClick() {
-    const auto year =
-        AskYear(rooms_.Boxes, rooms_.Texts.Text(texts::kProgramTitle), rooms_.Dates.BaseYear);
+    const auto year = AskYear(rooms_.Boxes, rooms_.Texts, rooms_.Dates.BaseYear);
     if (year) {
         ShowYear(rooms_.Dates, *year);
         hooks_.SetReturnCountdown(0);
@@ -304,7 +303,7 @@ void FormCal::LabHelp_Click() {
     const std::string page = rooms_.DataFolder + "Help.htm";
     if (!rooms_.Desktop.OpenPage(page)) {
         rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                           TextOf(ProgramText::NoHelp, page), DialogIcon::Critical});
+                           TextOf(rooms_.Texts, ProgramText::NoHelp, page), DialogIcon::Critical});
     }
 }
 
@@ -331,7 +330,10 @@ void FormCal::MNU_WeekSt_Click(int index) {
 
 void FormCal::MNU_Lan_Click(int index) {
     hooks_.ChangeLanguage(index);
-    Redraw(kSameMonth);
+}
+
+void FormCal::MNU_Settings_Click() {
+    hooks_.OpenSettings();
 }
 
 void FormCal::MNU_Full_Click() {
@@ -348,7 +350,7 @@ void FormCal::MNU_About_Click() {
     const std::string version = FromQt(QApplication::applicationVersion());
     rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
                        rooms_.Texts.Text(texts::kProgramTitle) + " " + version + "\n" +
-                           std::string(TextOf(ProgramText::AboutText)),
+                           TextOf(rooms_.Texts, ProgramText::AboutText),
                        DialogIcon::None});
 }
 

@@ -50,6 +50,7 @@ public:
     // What the window asks of the program around it.
     struct Hooks {
         std::function<void(int day)> OpenDiary;
+        std::function<void()> OpenSettings;
         std::function<void()> SettingsChanged; // to be kept
         std::function<void(int index)> ChangeLanguage;
         std::function<void()> ReloadLanguage; // day names have other places
@@ -70,7 +71,10 @@ public:
     // Puts the texts of the string table into the window and its menus.
     void LoadCaptions();
 
-    // Ticks the menu entries by the settings.
+    // Puts the tips on or takes them off, as the settings say.
+    void LoadTips();
+
+    // Fits the picture and ticks the menu entries by the settings.
     void ApplySettings();
 
     // Shows the window as it was before it was minimised, maximised or hidden.
@@ -113,6 +117,7 @@ private:
     void MNU_Mon_Click(int month);
     void MNU_WeekSt_Click(int index);
     void MNU_Lan_Click(int index);
+    void MNU_Settings_Click();
     void MNU_Full_Click();
     void MNU_Repeat_Click();
     void MNU_About_Click();

@@ -26,10 +26,6 @@ namespace {
 constexpr QSize kFirstSize{1200, 664};
 constexpr QSize kSmallestSize{640, 480};
 
-QString ToQt(ProgramText text) {
-    return kestrova::ToQt(TextOf(text));
-}
-
 // The sheet behind the dates, in the background colour that the user has chosen.
 class Card : public QWidget {
 public:
@@ -89,6 +85,7 @@ FormCal::FormCal(const Rooms& rooms, Hooks hooks) : rooms_(rooms), hooks_(std::m
     Image1 = new PictureBox(centre);
     Image1->setObjectName(QStringLiteral("Image1"));
     Image1->Clicked = [this] { LabCurMth_Click(); };
+    Image1->DoubleClicked = [this] { MNU_Settings_Click(); };
     layout_->addWidget(Image1, 3);
     card_ = new Card(centre);
     card_->setFocusPolicy(Qt::StrongFocus);
@@ -195,6 +192,10 @@ void FormCal::BuildFileMenu() {
     MNU_Repeat = AddAction(MNU_File, QStringLiteral("MNU_Repeat"), [this] { MNU_Repeat_Click(); });
     MNU_Repeat->setCheckable(true);
     MNU_File->addSeparator();
+    AddAction(MNU_File, QStringLiteral("MNU_Settings"), [this] {
+        MNU_Settings_Click();
+    })->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    MNU_File->addSeparator();
     AddAction(MNU_File, QStringLiteral("MNU_Exit"), [this] {
         MNU_Exit_Click();
     })->setShortcut(QKeySequence::Quit);
@@ -236,20 +237,21 @@ void FormCal::BuildChoiceMenus() {
         QAction* const action =
             AddAction(MNU_Language, ArrayName("MNU_Lan", i), [this, i] { MNU_Lan_Click(i); });
         action->setCheckable(true);
-        action->setText(kestrova::ToQt(FixedLanguages()[static_cast<std::size_t>(i)].MenuCaption));
+        action->setText(ToQt(FixedLanguages()[static_cast<std::size_t>(i)].MenuCaption));
         MNU_Lan[static_cast<std::size_t>(i)] = action;
     }
 }
 
 void FormCal::LoadCaptions() {
     const StringTable& table = rooms_.Texts;
+    const auto words = [&table](ProgramText text) { return ToQt(TextOf(table, text)); };
     ApplyCaptions(*this, table,
                   rooms_.Settings.HelpTextOn != 0 ? TipTexts::Apply : TipTexts::Leave);
-    setWindowTitle(kestrova::ToQt(table.Text(texts::kProgramTitle)));
-    MNU_File->setTitle(ToQt(ProgramText::MenuFile));
-    MNU_Month->setTitle(ToQt(ProgramText::MenuMonth));
-    MNU_Week->setTitle(ToQt(ProgramText::MenuWeekStart));
-    MNU_Language->setTitle(ToQt(ProgramText::MenuLanguage));
+    setWindowTitle(ToQt(table.Text(texts::kProgramTitle)));
+    MNU_File->setTitle(words(ProgramText::MenuFile));
+    MNU_Month->setTitle(words(ProgramText::MenuMonth));
+    MNU_Week->setTitle(words(ProgramText::MenuWeekStart));
+    MNU_Language->setTitle(words(ProgramText::MenuLanguage));
 
     struct Entry {
         const char* Name;
@@ -258,6 +260,7 @@ void FormCal::LoadCaptions() {
     constexpr Entry kEntries[] = {
         {"MNU_Full", ProgramText::MenuFullScreen},
         {"MNU_Repeat", ProgramText::MenuRepeatMode},
+        {"MNU_Settings", ProgramText::MenuSettings},
         {"MNU_Exit", ProgramText::MenuExit},
         {"MNU_Today", ProgramText::MenuThisMonth},
         {"MNU_Previous", ProgramText::MenuPreviousMonth},
@@ -267,21 +270,21 @@ void FormCal::LoadCaptions() {
         {"MNU_About", ProgramText::MenuAbout},
     };
     for (const Entry& entry : kEntries) {
-        findChild<QAction*>(QLatin1String(entry.Name))->setText(ToQt(entry.Text));
+        findChild<QAction*>(QLatin1String(entry.Name))->setText(words(entry.Text));
     }
-    Image1->setAccessibleName(ToQt(ProgramText::PictureOfMonth));
-    LabYrRtd->setAccessibleName(ToQt(ProgramText::PreviousYear));
-    LabYrRtd->setToolTip(ToQt(ProgramText::PreviousYear));
-    LabYrAdv->setAccessibleName(ToQt(ProgramText::NextYear));
-    LabYrAdv->setToolTip(ToQt(ProgramText::NextYear));
+    Image1->setAccessibleName(words(ProgramText::PictureOfMonth));
+    LabYrRtd->setAccessibleName(words(ProgramText::PreviousYear));
+    LabYrRtd->setToolTip(words(ProgramText::PreviousYear));
+    LabYrAdv->setAccessibleName(words(ProgramText::NextYear));
+    LabYrAdv->setToolTip(words(ProgramText::NextYear));
 
     for (std::size_t month = 0; month < kMonths; ++month) {
-        MNU_Mon[month]->setText(kestrova::ToQt(table.MonthMenu[month]));
+        MNU_Mon[month]->setText(ToQt(table.MonthMenu[month]));
     }
     // Saturday, Sunday, Monday: the reverse of the numbers in the settings.
     constexpr std::array<std::size_t, 3> kWeekdays = {5, 6, 0};
     for (std::size_t i = 0; i < kWeekdays.size(); ++i) {
-        MNU_WeekSt[i]->setText(kestrova::ToQt(table.WeekdayNames[kWeekdays[i]]));
+        MNU_WeekSt[i]->setText(ToQt(table.WeekdayNames[kWeekdays[i]]));
         MNU_WeekSt[i]->setChecked(static_cast<int>(rooms_.Settings.Week) ==
                                   2 - static_cast<int>(i));
     }
@@ -290,6 +293,11 @@ void FormCal::LoadCaptions() {
         MNU_Lan[i]->setEnabled(choices.Enabled[i]);
         MNU_Lan[i]->setChecked(choices.Checked == static_cast<int>(i));
     }
+}
+
+void FormCal::LoadTips() {
+    ApplyTips(*this, rooms_.Texts,
+              rooms_.Settings.HelpTextOn != 0 ? TipTexts::Apply : TipTexts::Remove);
 }
 
 } // namespace kestrova

@@ -4,6 +4,8 @@
 #include "app/Navigation.h"
 #include "diary/RollOver.h"
 #include "language/Texts.h"
+#include "platform/posix/FolderAnswers.h"
+#include "platform/qt/DataFolder.h"
 #include "settings/ListChoices.h"
 
 #include <QApplication>
@@ -22,7 +24,10 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
       texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
       languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
-      diaryFiles_(files_, clock_), store_(diaryFiles_, dialogs_, texts_, [this] { End(); }),
+      shortCut_(files_, dataFolder_, AutostartFolder(), ExecutablePath()),
+      diaryFiles_(files_, clock_), probe_(dataFolder_, FolderAnswers),
+      store_(diaryFiles_, dialogs_, texts_, probe_, [this] { End(); }),
+      shared_({files_, clock_, diaryFiles_, texts_, probe_}),
       yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
       editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
       review_({store_, dates_, texts_, settings_, speech_, phone_, mail_, media_, loop_, beeper_}),
@@ -30,7 +35,7 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
              beeper_, *this}),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
                 media_, dialogs_, shell_, clock_},
-               {[this](int day) { OpenDiary(day); },
+               {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
                 [this] { (void)settingsStore_.SaveSettings(settings_); },
                 [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
                 [this] { FirstDrawn(); },
@@ -44,12 +49,16 @@ Program::~Program() {
     Timer1.stop();
 }
 
-int Program::Run() {
+int Program::Run(FirstShow show) {
     startUp_.Run([this] { return !ended_; });
     if (ended_) {
         return 0;
     }
-    formCal_.show();
+    if (show == FirstShow::Shown) {
+        formCal_.show();
+    } else {
+        FirstDrawn(); // reminders do not wait for a window
+    }
     link_.OnPoke([this](std::string_view text) { RunCheck_Change(text); });
     return ended_ ? 0 : QApplication::exec();
 }
@@ -58,6 +67,10 @@ int Program::Run() {
 // wait for an answer to a message are left with it, also those before the main one has begun.
 void Program::End() {
     ended_ = true;
+    if (diary_) {
+        // What the user has typed into a note is theirs, like any note that has been left.
+        diary_->SaveNote(SaveMessages::Keep);
+    }
     QApplication::exit(0);
 }
 
@@ -82,6 +95,8 @@ void Program::FillFirstSteps() {
     startUp_.Fill(StartUpStep::GetLanguage, [this] { ReloadLanguage(); });
     startUp_.Fill(StartUpStep::LoadCaptions, [this] { LoadCaptions(); });
     startUp_.Fill(StartUpStep::ApplySettings, [this] { formCal_.ApplySettings(); });
+    // The entry only serves a later "Start on Boot Up", which tells when it cannot be written.
+    startUp_.Fill(StartUpStep::GetShortCut, [this] { (void)shortCut_.GetShortCut(settings_); });
     startUp_.Fill(StartUpStep::ModemCheck, [this] { ModemCheck(); });
 }
 
@@ -149,7 +164,8 @@ void Program::ModemCheck() {
 
 void Program::ReadTodayFromClock() {
     const WallTime now = clock_.Now();
-    ReadToday(dates_, now.Month, now.Day, DayMonthOrder::AsGiven);
+    ReadToday(dates_, now.Month, now.Day,
+              settings_.SwapDayMonth ? DayMonthOrder::Swapped : DayMonthOrder::AsGiven);
 }
 
 void Program::LoadCaptions() {
@@ -160,6 +176,13 @@ void Program::LoadCaptions() {
     if (screenReminder_) {
         screenReminder_->LoadCaptions();
     }
+    if (settingsWindow_) {
+        settingsWindow_->LoadCaptions();
+    }
+    if (lanEditor_) {
+        lanEditor_->LoadCaptions();
+    }
+    toolkitTexts_.Use(FixedLanguages()[static_cast<std::size_t>(texts_.ProgramLanguage)].Locale);
 }
 
 void Program::ReloadLanguage() {
@@ -180,7 +203,21 @@ void Program::ChangeLanguage(int index) {
         }
     }
     LoadCaptions();
+    formCal_.Redraw(FormCal::kSameMonth);
     (void)settingsStore_.SaveSettings(settings_);
+}
+
+// Choices are held by their texts, so they follow texts that change.
+void Program::TextsChanged(const StringTable& before) {
+    TranslateChoices(settings_, before, texts_);
+    LoadCaptions();
+    formCal_.Redraw(FormCal::kSameMonth);
+}
+
+void Program::LanguageSaved() {
+    const StringTable before = texts_;
+    ReloadLanguage();
+    TextsChanged(before);
 }
 
 void Program::FirstDrawn() {
@@ -209,8 +246,11 @@ void Program::OpenDiary(int day) {
     }
     if (!diary_) {
         diary_ = std::make_unique<Diary>(
-            &formCal_, Diary::Rooms{dates_, texts_, settings_, store_, editor_, clock_, dialogs_},
-            [this] { formCal_.Redraw(FormCal::kSameMonth); });
+            &formCal_,
+            Diary::Rooms{dates_, texts_, settings_, store_, shared_, editor_, clock_, dialogs_},
+            Diary::Hooks{
+                [this] { formCal_.Redraw(FormCal::kSameMonth); },
+                [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); }});
     }
     diary_->OpenPage();
 }
@@ -228,6 +268,12 @@ void Program::DiaryReloaded() {
     formCal_.Redraw(FormCal::kSameMonth);
     if (DayPageVisible() && !diary_->IsEditing()) {
         diary_->DrawMainPage();
+    }
+}
+
+void Program::DiaryFolderGone() {
+    if (diary_) {
+        diary_->DoNetUsers();
     }
 }
 

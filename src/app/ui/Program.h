@@ -6,6 +6,7 @@
 #include "app/ui/FormCal.h"
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
+#include "language/ui/LanEditor.h"
 #include "mail/UnavailableMail.h"
 #include "media/UnavailableMedia.h"
 #include "phone/UnavailableCaller.h"
@@ -16,8 +17,11 @@
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtShell.h"
+#include "platform/qt/ToolkitTexts.h"
 #include "reminders/ClockTick.h"
 #include "settings/SettingsStore.h"
+#include "settings/ShortCut.h"
+#include "settings/ui/Settings.h"
 #include "speech/UnavailableSpeaker.h"
 
 #include <QTimer>
@@ -27,18 +31,21 @@
 
 namespace kestrova {
 
+// Whether the main window is shown when the program starts, or waits for a second start.
+enum class FirstShow { Shown, Hidden };
+
 // The one place that creates devices, services and windows and hands each what it needs. What the
 // program has one of is a member here.
-class Program : private ClockWindows, private ReminderDetails {
+class Program : private ClockWindows, private ReminderDetails, private SettingsActions {
 public:
     // `dataFolder` is the program folder, ending in the separator; `mediaFile` is played when the
     // window is first shown, unless it is empty.
     Program(std::string dataFolder, std::string mediaFile, InstanceLink& link);
     ~Program() override;
 
-    // Starts up, shows the main window and handles events until the program ends. Returns the exit
-    // code.
-    int Run();
+    // Starts up, shows the main window unless it is to wait, and handles events until the program
+    // ends. Returns the exit code.
+    int Run(FirstShow show);
 
     // Ends the program in order, whatever windows and questions are open: nothing asks, nothing is
     // saved that was not accepted.
@@ -56,8 +63,12 @@ private:
     void ReadTodayFromClock();
     void FirstDrawn();
     void OpenDiary(int day);
-    void ChangeLanguage(int index);
     void ReloadLanguage();
+    void LanguageSaved();
+    void TextsChanged(const StringTable& before);
+    void OpenSettings();
+    Settings& SettingsWindow();
+    LanEditor& LanguageEditor();
     void RunCheck_Change(std::string_view text);
 
     // ClockWindows
@@ -65,7 +76,7 @@ private:
     [[nodiscard]] bool DayPageVisible() const override { return diary_ && diary_->isVisible(); }
     void ShowMainWindow() override { formCal_.show(); }
     void DiaryReloaded() override;
-    void DiaryFolderGone() override {}
+    void DiaryFolderGone() override;
     void ShowReminders(const std::vector<std::string>& lines) override;
     void TodayMoved(bool wasShown) override;
     void YearTurned(int year) override { yearTurn_.Turn(year); }
@@ -77,6 +88,23 @@ private:
     [[nodiscard]] bool SoundWorks() const override { return media_.SoundWorks(); }
     [[nodiscard]] bool VideoWorks() const override { return media_.VideoWorks(); }
     [[nodiscard]] bool CdWorks() const override { return media_.CdWorks(); }
+    // SettingsActions
+    void DoColor() override { formCal_.Redraw(FormCal::kSameMonth); }
+    void ShowChoices() override;
+    void DateOrderChanged() override;
+    void ChangeLanguage(int index) override;
+    void OpenLanguageEditor() override;
+    [[nodiscard]] std::vector<std::string> Characters() const override {
+        return speech_.Characters();
+    }
+    bool LoadCharacter() override { return speech_.LoadCharacter(); }
+    void Talk(const std::string& text) override { speech_.Talk(text, AfterSpeaking::Hide); }
+    std::optional<std::string> FindModem() override;
+    void MakeSound(const std::string& path) override { media_.MakeSound(path); }
+    void ChangeYear() override;
+    void FormatData() override;
+    bool SaveSettings() override;
+
     bool AskPhoneNumbers(ReminderExtra& extra) override;
     bool AskMailAddress(ReminderExtra& extra) override;
     void Preview(const std::string& path) override { media_.MakeSound(path); }
@@ -91,6 +119,7 @@ private:
     QtEventLoop loop_;
     QtBeeper beeper_;
     QtShell shell_;
+    ToolkitTexts toolkitTexts_;
     InstanceLink& link_;
     UnavailableSpeaker speech_;
     UnavailableCaller phone_;
@@ -105,8 +134,11 @@ private:
 
     Languages languages_;
     SettingsStore settingsStore_;
+    ShortCut shortCut_;
     DiaryFiles diaryFiles_;
+    FolderProbe probe_;
     DiaryStore store_;
+    SharedDiaries shared_;
     YearTurn yearTurn_;
     EventEditor editor_;
     ReminderReview review_;
@@ -116,6 +148,8 @@ private:
     // Made on first use, which start-up need not wait for.
     std::unique_ptr<Diary> diary_;
     std::unique_ptr<ScreenReminder> screenReminder_;
+    std::unique_ptr<Settings> settingsWindow_;
+    std::unique_ptr<LanEditor> lanEditor_;
     QTimer Timer1;
     StartUp startUp_;
 };

@@ -38,15 +38,17 @@ struct MonthScene : DiaryScene {
     UnavailableMedia Media;
     RecordingShell Desktop;
     std::vector<int> Opened;
+    int SettingsOpened = 0;
     int SettingsSaved = 0;
     int FirstDrawn = 0;
     int Countdown = 0;
     int Quits = 0;
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock},
-                   {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsSaved; },
-                    [](int) {}, [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
-                    [this](int minutes) { Countdown = minutes; }, [this] { ++Quits; }}};
+                   {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
+                    [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
+                    [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; },
+                    [this] { ++Quits; }}};
 
     void Show() {
         Window.LoadCaptions();
@@ -289,6 +291,28 @@ TEST(FormCalTest, AMissingHelpPageIsSaid) {
     QTest::mouseClick(scene.Find<QLabel>(QStringLiteral("LabHelp")), Qt::LeftButton);
     EXPECT_THAT(scene.Desktop.Pages, testing::ElementsAre("/home/me/Help.htm"));
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+}
+
+TEST(FormCalTest, PictureMenuAndKeyOpenTheSettings) {
+    MonthScene scene;
+    scene.Show();
+    QTest::mouseDClick(scene.Find<QWidget>(QStringLiteral("Image1")), Qt::LeftButton);
+    scene.Find<QAction>(QStringLiteral("MNU_Settings"))->trigger();
+    scene.Press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(scene.SettingsOpened, 3);
+}
+
+TEST(FormCalTest, TipsGoAndComeBack) {
+    MonthScene scene;
+    scene.Show();
+    auto* const picture = scene.Find<QWidget>(QStringLiteral("Image1"));
+    EXPECT_EQ(picture->toolTip(), QStringLiteral("Double click here to open settings window."));
+    scene.Settings.HelpTextOn = 0;
+    scene.Window.LoadTips();
+    EXPECT_EQ(picture->toolTip(), QString());
+    scene.Settings.HelpTextOn = 1;
+    scene.Window.LoadTips();
+    EXPECT_NE(picture->toolTip(), QString());
 }
 
 } // namespace

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the settings window and the language editor bring about.
+#include "app/ui/Program.h"
+
+#include "app/Navigation.h"
+#include "language/Texts.h"
+
+namespace kestrova {
+
+Settings& Program::SettingsWindow() {
+    if (!settingsWindow_) {
+        settingsWindow_ = std::make_unique<Settings>(Settings::Rooms{
+            settings_, texts_, languages_, files_, dialogs_, static_cast<SettingsActions&>(*this)});
+    }
+    return *settingsWindow_;
+}
+
+LanEditor& Program::LanguageEditor() {
+    if (!lanEditor_) {
+        lanEditor_ = std::make_unique<LanEditor>(
+            LanEditor::Rooms{texts_, languages_, dialogs_},
+            LanEditor::Hooks{[this](const StringTable& before) { TextsChanged(before); },
+                             [this] { LanguageSaved(); }, [this] { OpenSettings(); }});
+    }
+    return *lanEditor_;
+}
+
+void Program::OpenSettings() {
+    // While a language is edited, its editor stands for the settings.
+    if (lanEditor_ && lanEditor_->isVisible()) {
+        lanEditor_->raise();
+        lanEditor_->activateWindow();
+        return;
+    }
+    SettingsWindow().Open();
+}
+
+void Program::OpenLanguageEditor() {
+    const std::vector<std::string>& names = languages_.Choices().Names;
+    const auto index = static_cast<std::size_t>(settings_.LanguageIndex);
+    SettingsWindow().hide();
+    LanguageEditor().Open(index < names.size() ? names[index] : std::string(), settings_.Week);
+}
+
+void Program::ShowChoices() {
+    formCal_.ApplySettings();
+    formCal_.LoadTips();
+    if (diary_) {
+        diary_->LoadCaptions();
+    }
+}
+
+void Program::DateOrderChanged() {
+    ReadTodayFromClock();
+    formCal_.Redraw(FormCal::kSameMonth);
+}
+
+std::optional<std::string> Program::FindModem() {
+    Timer1.stop(); // the probe waits for the modem's answers; no tick is to come in between
+    const bool found = phone_.ModemPresent();
+    Timer1.start();
+    return found ? std::optional(settings_.ModemDescription) : std::nullopt;
+}
+
+void Program::ChangeYear() {
+    if (const auto year = AskYear(dialogs_, texts_, dates_.BaseYear)) {
+        ShowYear(dates_, *year);
+    }
+    tick_.SetReturnCountdown(0);
+    dates_.PageMonth = dates_.TodayMonth;
+    formCal_.GetPicture();
+    formCal_.Redraw(dates_.TodayMonth);
+}
+
+void Program::FormatData() {
+    if (const Status removed = shortCut_.Remove(); !removed) {
+        dialogs_.Show(
+            {texts_.Text(texts::kMessengerTitle),
+             TextOf(texts_, ProgramText::StartEntryFailed) + "\n" + removed.Failure().Text,
+             DialogIcon::Critical});
+    }
+    (void)settingsStore_.SaveSettings(settings_); // shows its failure
+    // A friend's diary may be the one on show; it is the user's own that is emptied.
+    if (store_.Folder() != dataFolder_) {
+        store_.GetData(dataFolder_);
+    }
+    (void)store_.DataFormat(); // shows its failure
+    DiaryReloaded();
+}
+
+bool Program::SaveSettings() {
+    if (const Status made = shortCut_.SetShortCut(settings_); !made) {
+        dialogs_.Show({texts_.Text(texts::kMessengerTitle),
+                       TextOf(texts_, ProgramText::StartEntryFailed) + "\n" + made.Failure().Text,
+                       DialogIcon::Critical});
+    }
+    const bool saved = settingsStore_.SaveSettings(settings_).Ok();
+    dates_.PageMonth = dates_.TodayMonth;
+    formCal_.GetPicture();
+    formCal_.Redraw(dates_.TodayMonth);
+    if (settings_.SpeechEnabled != 0) {
+        speech_.LoadCharacter();
+    }
+    return saved;
+}
+
+} // namespace kestrova
