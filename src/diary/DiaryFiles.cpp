@@ -2,6 +2,7 @@
 #include "diary/DiaryFiles.h"
 
 #include "diary/Digest.h"
+#include "diary/NoteArchive.h"
 #include "diary/NoteName.h"
 #include "platform/KeepAside.h"
 #include "text/Lines.h"
@@ -247,6 +248,29 @@ Status DiaryFiles::MoveAside(const std::string& folder, std::string_view mark) {
 
 Status DiaryFiles::CopyAside(const std::string& folder, std::string_view mark) {
     return kestrova::CopyAside(files_, clock_.Now(), DiaryPath(files_, folder), mark);
+}
+
+Status DiaryFiles::CopyNotesAside(const std::string& folder, std::string_view mark,
+                                  const DiaryTable& table, int baseYear) {
+    const std::set<std::string> names = NotesWithText(folder, NoteNames(folder));
+    Status readAll = Done{};
+    const std::string archive =
+        NoteArchive(table, baseYear, [&](const std::string& name) -> std::optional<std::string> {
+            if (!names.contains(name)) {
+                return std::nullopt;
+            }
+            auto note = ReadNote(folder, name);
+            if (!note) {
+                readAll = note.Failure();
+                return std::nullopt;
+            }
+            return std::move(note.Value());
+        });
+    if (!readAll || archive.empty()) {
+        return readAll;
+    }
+    return WriteNewAside(files_, clock_.Now(), NoteFolder(files_, folder) + "Notes.txt", mark,
+                         archive);
 }
 
 } // namespace kestrova

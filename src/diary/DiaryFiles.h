@@ -82,6 +82,12 @@ public:
     Status MoveAside(const std::string& folder, std::string_view mark);
     Status CopyAside(const std::string& folder, std::string_view mark);
 
+    // Keeps every note that holds anything in one text beside the diary file ("Notes before 2027
+    // ....txt"), to be read by people. The table says whose they are, `baseYear` which year it
+    // begins with.
+    Status CopyNotesAside(const std::string& folder, std::string_view mark, const DiaryTable& table,
+                          int baseYear);
+
 private:
     // What is moved with an event unseen may be larger than what can be edited.
     static constexpr std::size_t kNoteLimit = std::size_t{64} << 20U; // bytes

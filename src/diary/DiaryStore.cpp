@@ -222,11 +222,38 @@ ChangeResult DiaryStore::Change(const Edit& edit, SaveMessages messages) {
     return left ? ChangeResult::Left : result;
 }
 
-ChangeResult DiaryStore::DataFormat() {
-    return Change([](EventList& events) {
-        EachStoredSlot([&](const SlotPlace& place) { events.DeleteMsg(place); });
-        return EditVerdict::Save;
-    });
+// Keeps the file and the notes of a diary before they are lost. A file that is not there has
+// nothing to keep.
+Status DiaryStore::KeepAll(const std::string& folder, const std::string& mark,
+                           const DiaryTable& table, int baseYear) {
+    const Status kept = files_.CopyAside(folder, mark);
+    if (!kept && kept.Failure().Code != ErrorCode::NotFound) {
+        return kept;
+    }
+    return files_.CopyNotesAside(folder, mark, table, baseYear);
+}
+
+Status DiaryStore::TryFormat(int baseYear) {
+    const auto opened = Open(folder_, LockKind::Exclusive);
+    if (!opened) {
+        return opened.Failure();
+    }
+    auto latest = Latest(folder_);
+    if (!latest) {
+        return latest.Failure();
+    }
+    const Status kept = KeepAll(folder_, "before formatting", latest.Value(), baseYear);
+    if (!kept) {
+        return kept;
+    }
+    NotePlan notes(files_.NoteNames(folder_));
+    EventList events(latest.Value(), notes);
+    EachStoredSlot([&](const SlotPlace& place) { events.DeleteMsg(place); });
+    return Write(folder_, std::move(latest.Value()), notes, std::nullopt);
+}
+
+ChangeResult DiaryStore::DataFormat(int baseYear) {
+    return Persist(folder_, SaveMessages::Show, [&] { return TryFormat(baseYear); });
 }
 
 DiaryNews DiaryStore::Refresh() {
@@ -270,7 +297,7 @@ Status DiaryStore::TryBringForward(const std::string& folder, int fromYear, int 
         folder_ = folder;
         return Done{};
     }
-    const Status kept = files_.CopyAside(folder, "before " + std::to_string(toYear));
+    const Status kept = KeepAll(folder, "before " + std::to_string(toYear), latest.Value(), from);
     if (!kept) {
         return kept;
     }

@@ -85,8 +85,9 @@ public:
     // Applies an edit to the diary shown and saves it.
     ChangeResult Change(const Edit& edit, SaveMessages messages = SaveMessages::Show);
 
-    // Clears every stored slot and its note, and saves.
-    ChangeResult DataFormat();
+    // Clears every stored slot and its note, and saves. What was there is kept beside it; the
+    // diary begins with `baseYear`.
+    ChangeResult DataFormat(int baseYear);
 
     // Looks whether someone else has changed the file, and loads it if so. Waits for nobody: what
     // cannot be read now is looked at again the next time.
@@ -131,6 +132,9 @@ private:
     Result<DiaryTable> Latest(const std::string& folder);
     Status Write(const std::string& folder, DiaryTable table, const NotePlan& notes,
                  std::optional<int> rolledTo);
+    Status TryFormat(int baseYear);
+    Status KeepAll(const std::string& folder, const std::string& mark, const DiaryTable& table,
+                   int baseYear);
     Status TryBringForward(const std::string& folder, int fromYear, int toYear);
     [[nodiscard]] bool AsksToTryAgain(const std::string& folder, const Error& error);
     ChangeResult Persist(const std::string& folder, SaveMessages messages,

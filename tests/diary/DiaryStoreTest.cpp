@@ -233,9 +233,14 @@ TEST(DiaryStoreTest, LinesThatNoRecordUsesAreKeptAside) {
 TEST(DiaryStoreTest, FormattingClearsEventsAndNotes) {
     DiaryScene scene;
     scene.Insert(kDay, MakeEvent(9, 0, "x"));
-    scene.Files.Put(scene.NotePath({1, kDay}), "note");
+    scene.Files.Put(scene.NotePath({1, kDay}), "note\r\n");
     scene.Files.Put("/home/me/DiaryDat/letter.txt", "not a note");
-    EXPECT_EQ(scene.Store.DataFormat(), ChangeResult::Saved);
+    const auto before = scene.Files.Content(kDataPath);
+    EXPECT_EQ(scene.Store.DataFormat(2026), ChangeResult::Saved);
+    EXPECT_EQ(scene.Files.Content(scene.FindPathWith("Data before formatting").value_or("")),
+              before);
+    EXPECT_EQ(scene.Files.Content(scene.FindPathWith("Notes before formatting").value_or("")),
+              "1 2026-05-14 09:00 x\r\nnote\r\n\r\n");
     EXPECT_TRUE(scene.OnFile() == DiaryTable());
     EXPECT_FALSE(scene.Files.Content(scene.NotePath({1, kDay})));
     EXPECT_TRUE(scene.Files.Content("/home/me/DiaryDat/letter.txt"));

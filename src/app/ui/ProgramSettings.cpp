@@ -84,7 +84,11 @@ void Program::FormatData() {
     if (store_.Folder() != dataFolder_) {
         store_.GetData(dataFolder_);
     }
-    (void)store_.DataFormat(); // shows its failure
+    if (store_.DataFormat(dates_.BaseYear) == ChangeResult::Saved) {
+        dialogs_.Show({texts_.Text(texts::kProgramTitle),
+                       TextOf(texts_, ProgramText::CopyKeptIn, NoteFolder(files_, dataFolder_)),
+                       DialogIcon::None});
+    }
     DiaryReloaded();
 }
 

@@ -4,6 +4,7 @@
 #include "platform/qt/QtText.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -28,6 +29,25 @@ void Seed(const QString& from, const QString& to) {
     }
 }
 
+// The manual is nobody's but the program's: an older one makes room for that of a newer program.
+// Other files are not brought back: the user may have deleted them.
+void RenewManual(const QString& from, const QString& to) {
+    QStringList names = {QStringLiteral("Help.htm")};
+    for (const QString& picture : QDir(from + QStringLiteral("Help")).entryList(QDir::Files)) {
+        names << QStringLiteral("Help/") + picture;
+    }
+    for (const QString& name : names) {
+        const QFileInfo source(from + name);
+        const QFileInfo target(to + name);
+        if (source.exists() &&
+            (!target.exists() || source.lastModified() > target.lastModified())) {
+            QDir().mkpath(target.path());
+            QFile::remove(target.filePath());
+            QFile::copy(source.filePath(), target.filePath());
+        }
+    }
+}
+
 } // namespace
 
 std::string FindDataFolder() {
@@ -40,6 +60,8 @@ std::string FindDataFolder() {
     if (!QFileInfo::exists(own)) {
         QDir().mkpath(own);
         Seed(beside, own);
+    } else {
+        RenewManual(beside, own);
     }
     return FromQt(own);
 }
