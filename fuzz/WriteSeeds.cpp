@@ -5,6 +5,7 @@
 #include "diary/NoteName.h"
 #include "diary/SaveJournal.h"
 #include "language/LanguageFile.h"
+#include "puzzle/Bitmap.h"
 #include "settings/SettingsFile.h"
 #include "text/Lines.h"
 
@@ -128,6 +129,20 @@ void WriteTexts(const std::filesystem::path& root) {
     seeds.Write("fraction", "+12.5e1");
 }
 
+// The puzzle target takes a byte for the side and then a bitmap.
+void WriteBitmaps(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Puzzle");
+    const auto bitmap = [](int width, int height, int bits, int colours) {
+        const kestrova::BitmapHeader header = kestrova::HeaderOf(width, height, bits, colours);
+        return PutHeader(header) +
+               std::string(header.FileSize - kestrova::kBitmapHeaderSize, '\x5A');
+    };
+    seeds.Write("colours", std::string(1, '\0') + bitmap(5, 4, 24, 0));
+    seeds.Write("palette", "\x02" + bitmap(13, 11, 8, 256));
+    seeds.Write("half", "\x01" + bitmap(9, 6, 4, 16));
+    seeds.Write("large", "\x09" + bitmap(41, 20, 4, 3));
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -142,5 +157,6 @@ int main(int argc, char* argv[]) {
     WriteJournals(root);
     WriteNetUsers(root);
     WriteTexts(root);
+    WriteBitmaps(root);
     return 0;
 }

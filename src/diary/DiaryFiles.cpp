@@ -12,7 +12,7 @@ namespace kestrova {
 
 namespace {
 
-constexpr std::chrono::milliseconds kLockWait{700};
+constexpr std::chrono::milliseconds kLockWait{350};
 constexpr std::size_t kJournalLimit = std::size_t{1} << 30U;
 constexpr std::string_view kMoreLinesMark = "with more lines";
 

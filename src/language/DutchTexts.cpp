@@ -24,7 +24,6 @@ constexpr ProgramTextRow kRows[] = {
     {Retry, "Opnieuw proberen"},
     {CloseProgram, "Kestrova afsluiten"},
     {DiaryOutOfReach, "De map van deze agenda is niet bereikbaar. Er is nog niets opgeslagen."},
-    {GoOn, "Doorgaan"},
 
     {MenuFile, "&Bestand"},
     {MenuMonth, "&Maand"},

@@ -23,7 +23,6 @@ constexpr ProgramTextRow kRows[] = {
     {Retry, "Try Again"},
     {CloseProgram, "Close Kestrova"},
     {DiaryOutOfReach, "The folder of this diary cannot be reached. Nothing has been saved yet."},
-    {GoOn, "Go On"},
 
     {MenuFile, "&File"},
     {MenuMonth, "&Month"},

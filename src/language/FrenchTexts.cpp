@@ -24,7 +24,6 @@ constexpr ProgramTextRow kRows[] = {
     {Retry, "Réessayer"},
     {CloseProgram, "Fermer Kestrova"},
     {DiaryOutOfReach, "Le dossier de cet agenda est inaccessible. Rien n’a encore été enregistré."},
-    {GoOn, "Continuer"},
 
     {MenuFile, "&Fichier"},
     {MenuMonth, "&Mois"},

@@ -26,7 +26,6 @@ constexpr ProgramTextRow kRows[] = {
     {CloseProgram, "Kestrova beenden"},
     {DiaryOutOfReach,
      "Der Ordner dieses Terminplaners ist nicht erreichbar. Es wurde noch nichts gespeichert."},
-    {GoOn, "Fortfahren"},
 
     {MenuFile, "&Datei"},
     {MenuMonth, "&Monat"},

@@ -25,7 +25,6 @@ constexpr ProgramTextRow kRows[] = {
     {CloseProgram, "Κλείσιμο του Kestrova"},
     {DiaryOutOfReach, "Δεν είναι δυνατή η πρόσβαση στον φάκελο αυτής της ατζέντας. Δεν έχει "
                       "αποθηκευτεί τίποτα ακόμη."},
-    {GoOn, "Συνέχεια"},
 
     {MenuFile, "&Αρχείο"},
     {MenuMonth, "&Μήνας"},

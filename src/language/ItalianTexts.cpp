@@ -25,7 +25,6 @@ constexpr ProgramTextRow kRows[] = {
     {CloseProgram, "Chiudi Kestrova"},
     {DiaryOutOfReach,
      "La cartella di questa agenda non è raggiungibile. Non è stato ancora salvato nulla."},
-    {GoOn, "Continua"},
 
     {MenuFile, "&File"},
     {MenuMonth, "&Mese"},

@@ -33,7 +33,7 @@ std::vector<BlockPlace> BlockPlaces(std::string_view bytes) {
         if (!heading) {
             return places;
         }
-        if (heading->ends_with(kHeadingEnd)) {
+        if (heading->size() <= kLongestHeading && heading->ends_with(kHeadingEnd)) {
             heading->resize(heading->size() - kHeadingEnd.size());
             place.Name = std::move(*heading);
             place.Whole = fields.Skip(kFieldsAfterHeading);
@@ -111,8 +111,8 @@ Result<StringTable> ReadBlock(FieldReader& fields) {
     const auto points = ReadFloat(size);
     const auto isBold = ReadTruth(bold);
     const auto isItalic = ReadTruth(italic);
-    // A size that no screen shows is as wrong as one that is no number.
-    if (!points || !(*points >= 1 && *points <= 200) || !isBold || !isItalic) {
+    if (!points || !(*points >= kLeastTitleSize && *points <= kGreatestTitleSize) || !isBold ||
+        !isItalic) {
         return Error{ErrorCode::Damaged, "font of the month title"};
     }
     table.Title = {*points, *isBold, *isItalic};

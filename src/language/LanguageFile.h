@@ -20,6 +20,13 @@ inline constexpr int kFieldsAfterHeading = 341;
 // A longer text, in bytes, is none: its block cannot be read.
 inline constexpr std::size_t kLongestText = 2000;
 
+// The size of the month title in points: what no screen shows is as wrong as what is no number.
+inline constexpr float kLeastTitleSize = 1;
+inline constexpr float kGreatestTitleSize = 200;
+
+// A longer heading, in bytes, is none.
+inline constexpr std::size_t kLongestHeading = 200;
+
 // Far beyond what eight languages, or eighty, take.
 inline constexpr std::size_t kLanguageFileLimit = std::size_t{16} << 20U;
 

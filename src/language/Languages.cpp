@@ -75,4 +75,23 @@ Status Languages::Save(std::string_view name, const StringTable& language) {
     return files_.Replace(path_, PutLanguage(bytes ? bytes.Value() : "", name, language));
 }
 
+std::optional<int> Languages::IndexInAny(const ItemList& list, std::string_view text) const {
+    if (const auto index = IndexOf(MsgDefaults(), list, text)) {
+        return index;
+    }
+    const auto bytes = files_.Read(path_, kLanguageFileLimit);
+    if (!bytes) {
+        return std::nullopt;
+    }
+    const int blocks = static_cast<int>(LanguageNames(bytes.Value()).size());
+    for (int block = 0; block < blocks; ++block) {
+        const auto table = ReadLanguage(bytes.Value(), block);
+        const auto index = table ? IndexOf(table.Value(), list, text) : std::nullopt;
+        if (index) {
+            return index;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace kestrova

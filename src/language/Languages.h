@@ -2,6 +2,7 @@
 #pragma once
 
 #include "language/FixedLanguages.h"
+#include "language/ItemLists.h"
 #include "language/StringTable.h"
 #include "platform/FileStore.h"
 
@@ -43,6 +44,9 @@ public:
     // Writes a language into the file: in the place of the block of that name, else as a new one
     // after the others. A file that cannot be read is not replaced.
     Status Save(std::string_view name, const StringTable& language);
+
+    // Where a text stands in a list of any language that there is, the built-in English first.
+    [[nodiscard]] std::optional<int> IndexInAny(const ItemList& list, std::string_view text) const;
 
     [[nodiscard]] const LanguageChoices& Choices() const { return choices_; }
 

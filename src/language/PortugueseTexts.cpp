@@ -23,7 +23,6 @@ constexpr ProgramTextRow kRows[] = {
     {Retry, "Tentar novamente"},
     {CloseProgram, "Fechar o Kestrova"},
     {DiaryOutOfReach, "Não foi possível acessar a pasta desta agenda. Nada foi salvo ainda."},
-    {GoOn, "Continuar"},
 
     {MenuFile, "&Arquivo"},
     {MenuMonth, "&Mês"},

@@ -26,7 +26,6 @@ enum class ProgramText {
     Retry,
     CloseProgram,
     DiaryOutOfReach,
-    GoOn,
 
     // menus
     MenuFile,

@@ -24,7 +24,6 @@ constexpr ProgramTextRow kRows[] = {
     {CloseProgram, "Cerrar Kestrova"},
     {DiaryOutOfReach,
      "No se puede acceder a la carpeta de esta agenda. Todavía no se ha guardado nada."},
-    {GoOn, "Continuar"},
 
     {MenuFile, "&Archivo"},
     {MenuMonth, "&Mes"},

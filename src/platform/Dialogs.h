@@ -15,10 +15,14 @@ struct Message {
     DialogIcon Icon = DialogIcon::None;
 };
 
-// Captions of the two answers; empty ones are the desktop's own "OK" and "Cancel".
+enum class DefaultAnswer { Yes, No };
+
+// Captions of the two answers, empty ones being the desktop's own "OK" and "Cancel", and the one
+// that Enter gives.
 struct AnswerCaptions {
     std::string Yes;
     std::string No;
+    DefaultAnswer Default = DefaultAnswer::Yes;
 };
 
 // A font as the user chooses it.

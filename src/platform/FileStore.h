@@ -71,7 +71,7 @@ public:
     // Deletes a file; one that is not there is no error.
     virtual Status Remove(const std::string& path) = 0;
 
-    // Makes a folder; one that is there already is no error.
+    // Makes a folder and those above it; one that is there already is no error.
     virtual Status MakeFolder(const std::string& path) = 0;
 
     // Nothing when there is no such file, or it cannot be asked about.

@@ -20,6 +20,17 @@ bool HasModemPort(const AppSettings& settings) {
     return settings.ModemPort.starts_with("Com");
 }
 
+void SettleChoices(AppSettings& settings, const StringTable& table, const FindItem& find) {
+    const auto settle = [&](std::string& text, const ItemList& list, int first) {
+        if (!IndexOf(table, list, text)) {
+            text = table.Text(list.Item(find(list, text).value_or(first)));
+        }
+    };
+    settle(settings.ChimeType, lists::kChimeTypes, 0);
+    settle(settings.ChimeInterval, lists::kChimeIntervals, 1);
+    settle(settings.ModemPort, lists::kModemPorts, 0);
+}
+
 void TranslateChoices(AppSettings& settings, const StringTable& before, const StringTable& after) {
     const auto translate = [&](std::string& text, const ItemList& list) {
         if (const auto index = IndexOf(before, list, text)) {

@@ -12,7 +12,7 @@ namespace kestrova {
 namespace {
 
 // Saved diaries and language files rest on these bytes, doubled blanks and misspellings included.
-// The digest is that of the 306 texts, a line each, as they were agreed upon.
+// The digest is that of the 306 texts, a line each.
 TEST(BuiltInEnglishTest, TextsReadExactlyAsTheyAlwaysHave) {
     std::string all;
     for (const auto& group : MsgDefaults().Texts) {

@@ -68,5 +68,25 @@ TEST(ListChoicesTest, ChoicesFollowAChangeOfLanguageAndBack) {
     EXPECT_EQ(settings.ChimeType, "");
 }
 
+TEST(ListChoicesTest, AChoiceThatNoListHasIsSettled) {
+    const StringTable english = MsgDefaults();
+    StringTable german = english;
+    german.Texts[2] = {"Ansage", "Gong", "Keiner"};
+    german.Texts[2][10] = "Nie";
+    german.Texts[2][11] = "Stündlich";
+    german.Texts[2][20] = "Kein Modem";
+    german.Texts[2][21] = "Com:1";
+    AppSettings settings;
+    settings.ChimeType = "Chime";         // English, of the time before the file was there
+    settings.ChimeInterval = "Alle Tage"; // a word that nobody knows any more
+    settings.ModemPort = "Com:1";
+    SettleChoices(settings, german, [&](const ItemList& list, std::string_view text) {
+        return IndexOf(english, list, text);
+    });
+    EXPECT_EQ(settings.ChimeType, "Gong");
+    EXPECT_EQ(settings.ChimeInterval, "Stündlich");
+    EXPECT_EQ(settings.ModemPort, "Com:1");
+}
+
 } // namespace
 } // namespace kestrova

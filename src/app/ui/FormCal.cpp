@@ -188,6 +188,9 @@ void FormCal::showEvent(QShowEvent* event) {
 
 void FormCal::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        hooks_.GotFocus();
+    }
     const bool back =
         event->type() == QEvent::WindowStateChange || event->type() == QEvent::ActivationChange;
     if (back && windowReady_ && isVisible() && !isMinimized()) {

@@ -56,6 +56,7 @@ public:
         std::function<void()> ReloadLanguage; // day names have other places
         std::function<void()> FirstDrawn;
         std::function<void(int minutes)> SetReturnCountdown;
+        std::function<void()> GotFocus;
         std::function<void()> Quit;
     };
 
@@ -97,6 +98,7 @@ private:
     void BuildFileMenu();
     void BuildMonthMenu();
     void BuildChoiceMenus();
+    void GiveAccessKeys();
     QAction* AddAction(QMenu* menu, const QString& name, std::function<void()> handler);
 
     void Form_Activate();

@@ -245,8 +245,7 @@ void FormCal::BuildChoiceMenus() {
 void FormCal::LoadCaptions() {
     const StringTable& table = rooms_.Texts;
     const auto words = [&table](ProgramText text) { return ToQt(TextOf(table, text)); };
-    ApplyCaptions(*this, table,
-                  rooms_.Settings.HelpTextOn != 0 ? TipTexts::Apply : TipTexts::Leave);
+    ApplyCaptions(*this, table, TipTexts::Leave);
     setWindowTitle(ToQt(table.Text(texts::kProgramTitle)));
     MNU_File->setTitle(words(ProgramText::MenuFile));
     MNU_Month->setTitle(words(ProgramText::MenuMonth));
@@ -274,9 +273,7 @@ void FormCal::LoadCaptions() {
     }
     Image1->setAccessibleName(words(ProgramText::PictureOfMonth));
     LabYrRtd->setAccessibleName(words(ProgramText::PreviousYear));
-    LabYrRtd->setToolTip(words(ProgramText::PreviousYear));
     LabYrAdv->setAccessibleName(words(ProgramText::NextYear));
-    LabYrAdv->setToolTip(words(ProgramText::NextYear));
 
     for (std::size_t month = 0; month < kMonths; ++month) {
         MNU_Mon[month]->setText(ToQt(table.MonthMenu[month]));
@@ -288,6 +285,8 @@ void FormCal::LoadCaptions() {
         MNU_WeekSt[i]->setChecked(static_cast<int>(rooms_.Settings.Week) ==
                                   2 - static_cast<int>(i));
     }
+    GiveAccessKeys();
+    LoadTips();
     const LanguageChoices& choices = rooms_.Tongues.Choices();
     for (std::size_t i = 0; i < kFixedLanguages; ++i) {
         MNU_Lan[i]->setEnabled(choices.Enabled[i]);
@@ -295,9 +294,32 @@ void FormCal::LoadCaptions() {
     }
 }
 
+// The table's texts for two of the menus have no access keys: they get the first letters that the
+// others leave.
+void FormCal::GiveAccessKeys() {
+    QString taken;
+    for (const QMenu* const menu : {MNU_File, MNU_Month, MNU_Week, MNU_Language}) {
+        const QString title = menu->title();
+        taken += title.mid(title.indexOf(u'&') + 1, 1).toLower();
+    }
+    for (QMenu* const menu : {MNU_Date, MNU_Help}) {
+        QString title = menu->title();
+        for (qsizetype i = 0; i < title.size() && !title.contains(u'&'); ++i) {
+            const QString letter = title.mid(i, 1).toLower();
+            if (letter.front().isLetter() && !taken.contains(letter)) {
+                taken += letter;
+                menu->setTitle(title.insert(i, u'&'));
+            }
+        }
+    }
+}
+
 void FormCal::LoadTips() {
-    ApplyTips(*this, rooms_.Texts,
-              rooms_.Settings.HelpTextOn != 0 ? TipTexts::Apply : TipTexts::Remove);
+    const bool on = rooms_.Settings.HelpTextOn != 0;
+    ApplyTips(*this, rooms_.Texts, on ? TipTexts::Apply : TipTexts::Remove);
+    for (QToolButton* const arrow : {LabYrRtd, LabYrAdv}) {
+        arrow->setToolTip(on ? arrow->accessibleName() : QString());
+    }
 }
 
 } // namespace kestrova

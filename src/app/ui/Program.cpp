@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <utility>
+
 namespace kestrova {
 
 namespace {
@@ -36,10 +38,10 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
                 media_, dialogs_, shell_, clock_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
-                [this] { (void)settingsStore_.SaveSettings(settings_); },
-                [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
-                [this] { FirstDrawn(); },
-                [this](int minutes) { tick_.SetReturnCountdown(minutes); }, [this] { End(); }}) {
+                [this] { KeepMenuChoices(); }, [this](int index) { ChangeLanguage(index); },
+                [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
+                [this](int minutes) { tick_.SetReturnCountdown(minutes); },
+                [this] { HideSettings(); }, [this] { End(); }}) {
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
     FillStartUp();
@@ -91,6 +93,7 @@ void Program::FillFirstSteps() {
         // A settings file that is not there yet has the present year as the diary's.
         settings_.DataYear = static_cast<std::int16_t>(clock_.Now().Year);
         settingsStore_.GetSettings(settings_);
+        kept_ = settings_;
     });
     startUp_.Fill(StartUpStep::GetLanguage, [this] { ReloadLanguage(); });
     startUp_.Fill(StartUpStep::LoadCaptions, [this] { LoadCaptions(); });
@@ -189,27 +192,53 @@ void Program::ReloadLanguage() {
     int index = settings_.LanguageIndex;
     languages_.GetLanguage(index);
     settings_.LanguageIndex = static_cast<std::int16_t>(index);
+    SettleChoices();
     LoadCaptions();
+}
+
+// Choices are held by their texts, which a language file may have changed since.
+void Program::SettleChoices() {
+    const auto find = [this](const ItemList& list, std::string_view text) {
+        return languages_.IndexInAny(list, text);
+    };
+    kestrova::SettleChoices(settings_, texts_, find);
+    kestrova::SettleChoices(kept_, texts_, find);
+}
+
+// A choice made in a menu is kept at once; those made in the settings window wait for "O.K.".
+void Program::KeepMenuChoices() {
+    kept_.Week = settings_.Week;
+    kept_.VideoFullScreen = settings_.VideoFullScreen;
+    kept_.VideoRepeat = settings_.VideoRepeat;
+    kept_.LanguageIndex = settings_.LanguageIndex;
+    (void)settingsStore_.SaveSettings(kept_); // shows its failure
+    if (settingsWindow_ && settingsWindow_->isVisible()) {
+        settingsWindow_->ShowRecord();
+    }
 }
 
 void Program::ChangeLanguage(int index) {
     const StringTable before = texts_;
     const bool loaded = languages_.ChangeLanguage(index);
     settings_.LanguageIndex = static_cast<std::int16_t>(index);
-    TranslateChoices(settings_, before, texts_);
-    if (loaded && !texts_.LanguageFont.empty()) {
-        for (PrintStyle& style : settings_.PrintStyles) {
-            style.FontName = texts_.LanguageFont;
+    for (AppSettings* const record : {&settings_, &kept_}) {
+        TranslateChoices(*record, before, texts_);
+        if (loaded && !texts_.LanguageFont.empty()) {
+            for (PrintStyle& style : record->PrintStyles) {
+                style.FontName = texts_.LanguageFont;
+            }
         }
     }
+    SettleChoices();
     LoadCaptions();
     formCal_.Redraw(FormCal::kSameMonth);
-    (void)settingsStore_.SaveSettings(settings_);
+    KeepMenuChoices();
 }
 
 // Choices are held by their texts, so they follow texts that change.
 void Program::TextsChanged(const StringTable& before) {
     TranslateChoices(settings_, before, texts_);
+    TranslateChoices(kept_, before, texts_);
     LoadCaptions();
     formCal_.Redraw(FormCal::kSameMonth);
 }
@@ -221,6 +250,9 @@ void Program::LanguageSaved() {
 }
 
 void Program::FirstDrawn() {
+    if (std::exchange(firstDrawn_, true)) {
+        return; // a program that has waited hidden is shown
+    }
     tick_.SetFirstDraw(false);
     // The window is to be seen before a delivery makes the pass wait.
     QTimer::singleShot(0, &formCal_, [this] {
@@ -253,6 +285,14 @@ void Program::OpenDiary(int day) {
                 [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); }});
     }
     diary_->OpenPage();
+}
+
+// The main window that gets the focus has the screen to itself. Nothing is lost with the settings:
+// each choice has been taken.
+void Program::HideSettings() {
+    if (settingsWindow_) {
+        settingsWindow_->hide();
+    }
 }
 
 void Program::RunCheck_Change(std::string_view text) {

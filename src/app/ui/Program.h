@@ -61,9 +61,13 @@ private:
     void LoadCaptions();
     void ModemCheck();
     void ReadTodayFromClock();
+    void HideSettings();
+    void ShowTodayMonth();
     void FirstDrawn();
     void OpenDiary(int day);
     void ReloadLanguage();
+    void SettleChoices();
+    void KeepMenuChoices();
     void LanguageSaved();
     void TextsChanged(const StringTable& before);
     void OpenSettings();
@@ -110,6 +114,7 @@ private:
     void Preview(const std::string& path) override { media_.MakeSound(path); }
 
     bool ended_ = false;
+    bool firstDrawn_ = false;
     std::string dataFolder_; // DataFolder
     std::string mediaFile_;
 
@@ -129,6 +134,7 @@ private:
     Selection dates_;
     StringTable texts_;
     AppSettings settings_;
+    AppSettings kept_; // as the user has last said "O.K.", with what the menus have changed since
     PictureTable pictures_;
     std::string runCheck_; // RunCheck: the single-instance item
 

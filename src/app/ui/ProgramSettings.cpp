@@ -9,8 +9,9 @@ namespace kestrova {
 
 Settings& Program::SettingsWindow() {
     if (!settingsWindow_) {
-        settingsWindow_ = std::make_unique<Settings>(Settings::Rooms{
-            settings_, texts_, languages_, files_, dialogs_, static_cast<SettingsActions&>(*this)});
+        settingsWindow_ = std::make_unique<Settings>(
+            &formCal_, Settings::Rooms{settings_, texts_, languages_, files_, dialogs_,
+                                       static_cast<SettingsActions&>(*this)});
     }
     return *settingsWindow_;
 }
@@ -18,28 +19,22 @@ Settings& Program::SettingsWindow() {
 LanEditor& Program::LanguageEditor() {
     if (!lanEditor_) {
         lanEditor_ = std::make_unique<LanEditor>(
-            LanEditor::Rooms{texts_, languages_, dialogs_},
+            &formCal_, LanEditor::Rooms{texts_, languages_, dialogs_},
             LanEditor::Hooks{[this](const StringTable& before) { TextsChanged(before); },
-                             [this] { LanguageSaved(); }, [this] { OpenSettings(); }});
+                             [this] { LanguageSaved(); }, [this] { SettingsWindow().Open(); }});
     }
     return *lanEditor_;
 }
 
 void Program::OpenSettings() {
-    // While a language is edited, its editor stands for the settings.
-    if (lanEditor_ && lanEditor_->isVisible()) {
-        lanEditor_->raise();
-        lanEditor_->activateWindow();
-        return;
-    }
     SettingsWindow().Open();
 }
 
 void Program::OpenLanguageEditor() {
     const std::vector<std::string>& names = languages_.Choices().Names;
     const auto index = static_cast<std::size_t>(settings_.LanguageIndex);
-    SettingsWindow().hide();
     LanguageEditor().Open(index < names.size() ? names[index] : std::string(), settings_.Week);
+    SettingsWindow().hide();
 }
 
 void Program::ShowChoices() {
@@ -67,9 +62,13 @@ void Program::ChangeYear() {
         ShowYear(dates_, *year);
     }
     tick_.SetReturnCountdown(0);
-    dates_.PageMonth = dates_.TodayMonth;
+    ShowTodayMonth();
+}
+
+void Program::ShowTodayMonth() {
+    ShowMonth(dates_, dates_.TodayMonth);
     formCal_.GetPicture();
-    formCal_.Redraw(dates_.TodayMonth);
+    formCal_.Redraw(FormCal::kSameMonth);
 }
 
 void Program::FormatData() {
@@ -79,10 +78,14 @@ void Program::FormatData() {
              TextOf(texts_, ProgramText::StartEntryFailed) + "\n" + removed.Failure().Text,
              DialogIcon::Critical});
     }
-    (void)settingsStore_.SaveSettings(settings_); // shows its failure
+    kept_.StartOnBoot = settings_.StartOnBoot;
+    (void)settingsStore_.SaveSettings(kept_); // shows its failure
     // A friend's diary may be the one on show; it is the user's own that is emptied.
     if (store_.Folder() != dataFolder_) {
         store_.GetData(dataFolder_);
+    }
+    if (store_.Folder() != dataFolder_) {
+        return; // it cannot be had now, of which the user has been told
     }
     if (store_.DataFormat(dates_.BaseYear) == ChangeResult::Saved) {
         dialogs_.Show({texts_.Text(texts::kProgramTitle),
@@ -99,9 +102,10 @@ bool Program::SaveSettings() {
                        DialogIcon::Critical});
     }
     const bool saved = settingsStore_.SaveSettings(settings_).Ok();
-    dates_.PageMonth = dates_.TodayMonth;
-    formCal_.GetPicture();
-    formCal_.Redraw(dates_.TodayMonth);
+    if (saved) {
+        kept_ = settings_;
+    }
+    ShowTodayMonth();
     if (settings_.SpeechEnabled != 0) {
         speech_.LoadCharacter();
     }

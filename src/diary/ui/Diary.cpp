@@ -18,26 +18,6 @@
 
 namespace kestrova {
 
-namespace {
-
-// The wheel and the keys would go through the diaries one by one, loading each, and end up adding
-// one. A choice is made in the open list.
-bool IsUnwantedStep(const QEvent& event) {
-    if (event.type() == QEvent::Wheel) {
-        return true;
-    }
-    if (event.type() != QEvent::KeyPress) {
-        return false;
-    }
-    const auto& press = static_cast<const QKeyEvent&>(event);
-    const bool types = !press.text().isEmpty() && press.text().front().isLetterOrNumber();
-    const int key = press.key();
-    return types || key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_Home ||
-           key == Qt::Key_End || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
-}
-
-} // namespace
-
 void Diary::OpenPage() {
     row_ = 0;
     DrawMainPage();
@@ -251,12 +231,6 @@ bool Diary::eventFilter(QObject* watched, QEvent* event) {
                 row_ = row;
             }
         }
-    }
-    if (watched == CombNet && IsUnwantedStep(*event)) {
-        if (event->type() == QEvent::KeyPress) {
-            CombNet->showPopup();
-        }
-        return true;
     }
     return QDialog::eventFilter(watched, event);
 }

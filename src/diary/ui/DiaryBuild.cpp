@@ -7,6 +7,7 @@
 #include "ui/Look.h"
 #include "ui/Names.h"
 #include "ui/PlainTip.h"
+#include "ui/SteadyList.h"
 #include "ui/Twips.h"
 
 #include <QMenuBar>
@@ -176,7 +177,7 @@ void Diary::BuildButtons() {
     ComInfo = button("ComInfo", &Diary::ComInfo_Click);
     CombNet = new QComboBox(page_);
     CombNet->setObjectName(QStringLiteral("CombNet"));
-    CombNet->installEventFilter(this);
+    new SteadyList(CombNet); // a diary passed on the way would be loaded
     connect(CombNet, &QComboBox::activated, this, [this](int index) { CombNet_Click(index); });
     QWidget* previous = TextTme;
     for (QWidget* const next :

@@ -189,6 +189,7 @@ void Diary::ComInfo_Click() {
     }
     if (edit_ == nullptr) {
         edit_ = new Edit(this, {rooms_.Texts, rooms_.Settings, rooms_.Editor.Note(), hooks_.Speak});
+        edit_->StandBeside(*this);
     }
     edit_->OpenNote();
 }

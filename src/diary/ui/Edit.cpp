@@ -8,6 +8,9 @@
 
 #include <QFocusEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace kestrova {
 
@@ -18,6 +21,7 @@ constexpr TextId kEnterDetails{TextGroup::Labels, 6};
 
 constexpr int kWidth = 7200; // twips
 constexpr int kHeight = 5400;
+constexpr int kLeastHeight = 3600;
 constexpr int kLabelHeight = 500;
 constexpr int kLabelIndent = 6; // pixels
 
@@ -85,6 +89,19 @@ void Edit::OpenNote() {
     raise();
     activateWindow();
     TextEditor->setFocus();
+}
+
+void Edit::StandBeside(const QWidget& window) {
+    const QRect page = window.frameGeometry();
+    const QRect room = window.screen()->availableGeometry();
+    const int title = page.height() - window.height(); // a frame is as high here as there
+    const int below = room.bottom() - page.bottom() - title;
+    if (below >= Pixels(kLeastHeight)) {
+        resize(width(), std::min(height(), below));
+        move(page.left(), page.bottom() + 1);
+    } else if (room.right() - page.right() >= width()) {
+        move(page.right() + 1, page.top());
+    }
 }
 
 bool Edit::SaveNote(SaveMessages messages) {

@@ -30,6 +30,10 @@ public:
     // Opens the note and shows the window; shows nothing when the note cannot be opened.
     void OpenNote();
 
+    // Stands below the window or beside it, wherever the screen has room, so that neither hides
+    // the other.
+    void StandBeside(const QWidget& window);
+
     // Saves what has been typed since the last time. Whether the file has all of it now.
     bool SaveNote(SaveMessages messages);
 

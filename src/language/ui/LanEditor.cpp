@@ -2,6 +2,7 @@
 #include "language/ui/LanEditor.h"
 
 #include "language/ItemLists.h"
+#include "language/LanguageFile.h"
 #include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
 #include "text/Lines.h"
@@ -46,7 +47,9 @@ void LanEditor::Open(const std::string& name, WeekStart week) {
         TexMn[month]->setText(ToQt(texts.MonthMenu[month]));
     }
     for (int column = 0; column < kDaysOfWeek; ++column) {
-        TexDay[static_cast<std::size_t>(column)]->setText(ToQt(texts.DayName(column, week)));
+        const auto day = static_cast<std::size_t>(column);
+        TexDay[day]->setText(ToQt(texts.DayName(column, week)));
+        LabEnglishDay[day]->setText(ToQt(english_.DayName(column, week)));
     }
     opened_ = texts;
     opened_ = Edited();
@@ -67,6 +70,8 @@ void LanEditor::LoadCaptions() {
     LabMon->setText(Words(ProgramText::MonthsAndMenu));
     LabDay->setText(Words(ProgramText::DaysOfTheWeek));
     LabTexts->setText(Words(ProgramText::TextsOfWindows));
+    CombSel->setAccessibleName(LabTexts->text());
+    TexTrans->setAccessibleName(LabTexts->text());
     ShowFont();
 }
 
@@ -113,6 +118,7 @@ void LanEditor::CombSel_Click() {
     const std::string& text = rooms_.Texts.Text(shown_);
     const bool used = text != kUnusedText;
     TexTrans->setEnabled(used);
+    TexTrans->setMaxLength(std::max(kLongestTyped, static_cast<int>(text.size())));
     TexTrans->setText(used ? ToQt(text) : QString());
     TexTrans->setCursorPosition(0);
     LabEnglish->setText(
@@ -134,9 +140,18 @@ void LanEditor::TexTrans_LostFocus() {
         TexTrans->setText(ToQt(text));
     }
     const StringTable before = rooms_.Texts;
-    rooms_.Texts
-        .Texts[static_cast<std::size_t>(shown_.Group)][static_cast<std::size_t>(shown_.Entry)] =
-        text;
+    std::string& entry =
+        rooms_.Texts
+            .Texts[static_cast<std::size_t>(shown_.Group)][static_cast<std::size_t>(shown_.Entry)];
+    entry = text;
+    if (const auto shared = SharedItemText(rooms_.Texts); shared && !SharedItemText(before)) {
+        entry = before.Text(shown_); // choices from that list could no longer be told apart
+        TexTrans->setText(ToQt(entry));
+        rooms_.Boxes.Show({rooms_.Texts.Text(kEditorTitle),
+                           TextOf(rooms_.Texts, ProgramText::SameItems, *shared),
+                           DialogIcon::Critical});
+        return;
+    }
     if (static_cast<int>(shown_.Group) == CombTop->currentIndex()) {
         CombSel->setItemText(shown_.Entry, ToQt(text));
     }
@@ -150,6 +165,7 @@ void LanEditor::ComFont_Click() {
     }
     if (const auto chosen = rooms_.Boxes.ChooseFont(offered)) {
         font_ = *chosen;
+        font_.Size = std::clamp(font_.Size, kLeastTitleSize, kGreatestTitleSize);
         ShowFont();
     }
 }
@@ -215,23 +231,24 @@ void LanEditor::ComSave_Click() {
 }
 
 void LanEditor::Leave() {
-    hide();
+    // First the window that takes its place, so that the main one does not get the focus between.
     hooks_.Closed();
+    hide();
 }
 
 // Escape and the window's close button come here; "Cancel" says by itself what becomes of the
 // changes.
 void LanEditor::reject() {
     TexTrans_LostFocus();
-    if (IsChanged() &&
-        rooms_.Boxes.Ask({rooms_.Texts.Text(kEditorTitle),
-                          TextOf(rooms_.Texts, ProgramText::LanguageUnsaved), DialogIcon::Question},
-                         {TextOf(rooms_.Texts, ProgramText::KeepEdit),
-                          TextOf(rooms_.Texts, ProgramText::Discard)})) {
+    if (!IsChanged()) {
+        Leave();
+    } else if (rooms_.Boxes.Ask({rooms_.Texts.Text(kEditorTitle),
+                                 TextOf(rooms_.Texts, ProgramText::LanguageUnsaved),
+                                 DialogIcon::Question},
+                                {TextOf(rooms_.Texts, ProgramText::KeepEdit),
+                                 TextOf(rooms_.Texts, ProgramText::GoOnEditing)})) {
         ComSave_Click();
-        return;
     }
-    Leave();
 }
 
 } // namespace kestrova

@@ -20,6 +20,10 @@ namespace kestrova {
 
 class ScrolledContent;
 
+// With every character of four bytes, and every one a quote in a quoted field, a text of this many
+// still fits a field.
+inline constexpr int kLongestTyped = 400;
+
 // The language editor: translates the program, text by text. It works on the texts in use, so that
 // a changed text is seen at once, and writes them into the language file under the name that the
 // user gives.
@@ -39,7 +43,7 @@ public:
         std::function<void()> Closed; // the settings window is to be shown again
     };
 
-    LanEditor(const Rooms& rooms, Hooks hooks);
+    LanEditor(QWidget* parent, const Rooms& rooms, Hooks hooks);
 
     // Shows the editor on the language in use. `name` is that of its block, `week` says in which
     // column of the month a day stands.
@@ -89,6 +93,7 @@ private:
     std::array<QLineEdit*, kMonths> TexMon{};
     std::array<QLineEdit*, kMonths> TexMn{};
     std::array<QLineEdit*, kDaysOfWeek> TexDay{};
+    std::array<QLabel*, kDaysOfWeek> LabEnglishDay{};
     QComboBox* CombTop = nullptr;
     QComboBox* CombSel = nullptr;
     QLineEdit* TexTrans = nullptr;

@@ -14,10 +14,6 @@ namespace kestrova {
 
 namespace {
 
-// With every character of four bytes, and every one a quote in a quoted field, a text of this many
-// still fits a field.
-constexpr int kLongestTyped = 400;
-
 // The groups as their translators know them, in every language.
 constexpr std::array kGroupNames = {"Captions", "Buttons & Options", "Selectors",
                                     "Labels",   "Mouse Tip Text",    "Message Boxes"};
@@ -25,9 +21,10 @@ static_assert(kGroupNames.size() == kTextGroups);
 
 } // namespace
 
-LanEditor::LanEditor(const Rooms& rooms, Hooks hooks)
-    : rooms_(rooms), hooks_(std::move(hooks)), english_(MsgDefaults()) {
+LanEditor::LanEditor(QWidget* parent, const Rooms& rooms, Hooks hooks)
+    : QDialog(parent), rooms_(rooms), hooks_(std::move(hooks)), english_(MsgDefaults()) {
     setObjectName(QStringLiteral("LanEditor"));
+    setWindowModality(Qt::WindowModal);
     BuildControls();
     auto* const content = new QWidget;
     auto* const columns = new QHBoxLayout(content);
@@ -82,10 +79,15 @@ void LanEditor::BuildControls() {
         TexMn[month]->setAccessibleName(english + QStringLiteral(" &"));
     }
     for (int i = 0; i < kDaysOfWeek; ++i) {
-        TexDay[static_cast<std::size_t>(i)] = box(ArrayName("TexDay", i));
+        const auto day = static_cast<std::size_t>(i);
+        TexDay[day] = box(ArrayName("TexDay", i));
+        LabEnglishDay[day] = new QLabel(this);
+        LabEnglishDay[day]->setBuddy(TexDay[day]);
     }
     CombTop = new QComboBox(this);
     CombTop->setObjectName(QStringLiteral("CombTop"));
+    LabTexts->setBuddy(CombTop);
+    LabName->setBuddy(TexName);
     for (const char* const name : kGroupNames) {
         CombTop->addItem(QLatin1String(name));
     }
@@ -141,10 +143,17 @@ QLayout* LanEditor::BuildTexts() {
     rows->addWidget(LabEnglish);
     rows->addStretch(1);
     rows->addWidget(LabDay);
-    for (QLineEdit* const day : TexDay) {
-        rows->addWidget(day);
-        day->setMaximumWidth(260);
+    auto* const days = new QGridLayout;
+    days->setVerticalSpacing(4);
+    days->setHorizontalSpacing(look::kSpacing);
+    for (int i = 0; i < kDaysOfWeek; ++i) {
+        const auto day = static_cast<std::size_t>(i);
+        days->addWidget(LabEnglishDay[day], i, 0);
+        days->addWidget(TexDay[day], i, 1);
+        TexDay[day]->setMaximumWidth(260);
     }
+    days->setColumnStretch(2, 1);
+    rows->addLayout(days);
     return rows;
 }
 

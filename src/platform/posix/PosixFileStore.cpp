@@ -241,6 +241,16 @@ Status PosixFileStore::MakeFolder(const std::string& path) {
     if (::mkdir(path.c_str(), kFolderMode) == 0 || errno == EEXIST) {
         return Done{};
     }
+    const std::string bare = path.substr(0, path.find_last_not_of('/') + 1);
+    if (errno == ENOENT && bare.find('/') != std::string::npos && FolderOf(bare) != path) {
+        const Status above = MakeFolder(FolderOf(bare));
+        if (!above) {
+            return above;
+        }
+        if (::mkdir(path.c_str(), kFolderMode) == 0 || errno == EEXIST) {
+            return Done{};
+        }
+    }
     return SystemError(path);
 }
 

@@ -21,7 +21,7 @@ void Seed(const QString& from, const QString& to) {
     while (files.hasNext()) {
         const QString source = files.next();
         const QString target = to + QDir(from).relativeFilePath(source);
-        if (QFileInfo(source).isExecutable() || QFileInfo::exists(target)) {
+        if (source == QCoreApplication::applicationFilePath() || QFileInfo::exists(target)) {
             continue;
         }
         QDir().mkpath(QFileInfo(target).path());

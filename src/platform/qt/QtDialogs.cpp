@@ -64,7 +64,7 @@ bool QtDialogs::Ask(const Message& message, const AnswerCaptions& captions) {
     QPushButton* const no = captions.No.empty()
                                 ? box.addButton(QMessageBox::Cancel)
                                 : box.addButton(ToQt(captions.No), QMessageBox::RejectRole);
-    box.setDefaultButton(yes);
+    box.setDefaultButton(captions.Default == DefaultAnswer::Yes ? yes : no);
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;

@@ -21,8 +21,7 @@ public:
     void SetPicture(const QRectF& picture);
 
     [[nodiscard]] QRectF boundingRect() const override { return picture_; }
-    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
-               QWidget* widget) override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 private:
     // Lengths are parts of the picture's height, or of its width for what goes across.

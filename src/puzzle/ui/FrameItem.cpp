@@ -12,14 +12,14 @@ namespace kestrova {
 
 namespace {
 
-constexpr double kAboveTheTable = 10;
-constexpr double kAboveTheHand = 20; // the piece in hand would hide the cursor on a large target
+constexpr double kBelowTheHand = 1.5; // the pieces are at 0, 1 on their way and 2 in hand
+constexpr double kAboveThePieces = 3;
 
 } // namespace
 
 FrameItem::FrameItem(Kind kind) : kind_(kind) {
     setAcceptedMouseButtons(Qt::NoButton);
-    setZValue(kind == Kind::Cursor ? kAboveTheHand : kAboveTheTable);
+    setZValue(kind == Kind::Cursor ? kAboveThePieces : kBelowTheHand);
     setVisible(false);
 }
 

@@ -17,8 +17,7 @@ public:
     void Show(const QRectF& cell);
 
     [[nodiscard]] QRectF boundingRect() const override { return QRectF(QPointF(), size_); }
-    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
-               QWidget* widget) override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 private:
     Kind kind_;

@@ -121,8 +121,8 @@ void PieceItem::PaintShadow(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::Faded(Qt::black, 0.07));
     for (int width = kShadow; width > 0; width -= 2) {
-        painter.drawRoundedRect(
-            QRectF(QPointF(), size_).adjusted(-width, -width + 2, width, width), width, width);
+        painter.drawRoundedRect(QRectF(QPointF(), size_).adjusted(-width, -width + 2, width, width),
+                                width, width);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
 }

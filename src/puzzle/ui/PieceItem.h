@@ -40,8 +40,7 @@ public:
     void SetDraft(bool draft);
 
     [[nodiscard]] QRectF boundingRect() const override;
-    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
-               QWidget* widget) override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 private:
     void SetSize(const QSizeF& size, double ratio);

@@ -19,14 +19,17 @@ QSizeF SizeIn(const QSizeF& picture, const QSizeF& area, PuzzleShape shape) {
     return (kept * kMostStretch).boundedTo(area);
 }
 
-// Cuts a length into the parts that a picture of `pixels` is cut into, in whole pixels of the
-// screen.
+// Cuts a length in the middle of the room into the parts that a picture of `pixels` is cut into, in
+// whole pixels of the screen.
 std::vector<double> Edges(double room, double length, int pixels, int side, double ratio) {
-    const double start = std::round((room - length) / 2 * ratio);
+    // A hair more, for a length that falls short of a whole number only as such numbers are stored.
+    const double whole = std::floor(length * ratio + 1e-6);
+    const double start = std::floor((room * ratio - whole) / 2);
+    const int part = pixels / side;
     std::vector<double> edges;
     for (int i = 0; i <= side; ++i) {
-        const double share = i == side ? 1 : static_cast<double>(i * (pixels / side)) / pixels;
-        edges.push_back((start + std::round(share * length * ratio)) / ratio);
+        const double share = i == side ? 1 : static_cast<double>(i * part) / pixels;
+        edges.push_back((start + std::round(share * whole)) / ratio);
     }
     return edges;
 }

@@ -52,7 +52,7 @@ void PieceTable::ResetPiece() {
 void PieceTable::Lay(const PieceLayout& layout, const Board& board) {
     layout_ = layout;
     for (int position = 1; position <= board.Pieces(); ++position) {
-        Piece(board.PzPos(position)).Place(layout.Cell(position), layout.Ratio());
+        Place(board, position);
     }
     Piece(0).Place(layout.Picture(), layout.Ratio());
     Piece(0).setZValue(kOverThePieces);
@@ -61,9 +61,12 @@ void PieceTable::Lay(const PieceLayout& layout, const Board& board) {
     }
 }
 
+void PieceTable::Place(const Board& board, int position) {
+    Piece(board.PzPos(position)).Place(layout_.Cell(position), layout_.Ratio());
+}
+
 void PieceTable::Glide(const Board& board, int position, int milliseconds) {
-    Piece(board.PzPos(position))
-        .GlideTo(layout_.Cell(position), layout_.Ratio(), milliseconds);
+    Piece(board.PzPos(position)).GlideTo(layout_.Cell(position), layout_.Ratio(), milliseconds);
 }
 
 void PieceTable::SetLook(int piece, PieceLook look) {
@@ -73,10 +76,6 @@ void PieceTable::SetLook(int piece, PieceLook look) {
 void PieceTable::MoveTo(int piece, const QPointF& topLeft) {
     PieceItem& item = Piece(piece);
     item.Place(QRectF(topLeft, item.Size()), layout_.Ratio());
-}
-
-QPointF PieceTable::PlaceOf(int piece) const {
-    return Piece(piece).pos();
 }
 
 void PieceTable::Hover(int piece) {

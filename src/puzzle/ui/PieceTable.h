@@ -29,12 +29,14 @@ public:
     // Places every piece at once; what was moving has arrived.
     void Lay(const PieceLayout& layout, const Board& board);
 
+    // Puts the piece at a position there at once.
+    void Place(const Board& board, int position);
+
     // Lets the piece at a position glide to it from where it is.
     void Glide(const Board& board, int position, int milliseconds);
 
     void SetLook(int piece, PieceLook look);
     void MoveTo(int piece, const QPointF& topLeft);
-    [[nodiscard]] QPointF PlaceOf(int piece) const;
 
     // Lights up this piece and no other; 0 for none.
     void Hover(int piece);

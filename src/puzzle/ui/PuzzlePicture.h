@@ -11,14 +11,15 @@
 
 namespace kestrova {
 
-// A picture as the bytes of a bitmap file that can be cut: of 8 bits when it has a palette, else of
-// 24. What is transparent in it shows `ground`. Failed when it cannot be saved so.
-[[nodiscard]] Result<std::string> BitmapOf(const QImage& picture, const QColor& ground);
+// A picture as a puzzle shows it: of no more pixels than cover `most`, since more are never seen,
+// and with `ground` where it is transparent. Null when there is no picture, or no memory for it.
+[[nodiscard]] QImage PuzzlePicture(const QImage& picture, const QSize& most, const QColor& ground);
 
-// The picture made no larger than `most`.
-[[nodiscard]] QImage FittedTo(const QImage& picture, const QSize& most);
+// Such a picture as the bytes of a bitmap file that can be cut: of 8 bits when it has a palette,
+// else of 24. Failed when it cannot be saved so.
+[[nodiscard]] Result<std::string> BitmapOf(const QImage& picture);
 
-// The picture in the bytes of a bitmap file, no larger than `most`. Damaged when there is none.
-[[nodiscard]] Result<QImage> PictureOf(std::string_view bitmap, const QSize& most);
+// The picture in the bytes of a bitmap file. Damaged when there is none.
+[[nodiscard]] Result<QImage> PictureOf(std::string_view bitmap);
 
 } // namespace kestrova

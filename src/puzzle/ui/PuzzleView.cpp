@@ -10,8 +10,6 @@
 #include <QResizeEvent>
 #include <QScreen>
 
-#include <cmath>
-
 namespace kestrova {
 
 namespace {
@@ -27,10 +25,13 @@ public:
     ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
 };
 
-// A picture's size where it covers the screen: more pixels than that are never seen.
-QSize MostSeen(const QSize& picture, const QSize& screen) {
-    const QSize covering = picture.scaled(screen, Qt::KeepAspectRatioByExpanding);
-    return covering.width() < picture.width() ? covering : picture;
+// The pixels of the largest screen that the window could be moved to.
+QSize MostPixels() {
+    QSize most;
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        most = most.expandedTo(screen->size() * screen->devicePixelRatio());
+    }
+    return most;
 }
 
 QString ClockText(qint64 milliseconds) {
@@ -39,8 +40,9 @@ QString ClockText(qint64 milliseconds) {
         return QStringLiteral("%1").arg(value, 2, 10, QLatin1Char('0'));
     };
     const qint64 hours = seconds / 3600;
-    const QString minutes = hours > 0 ? QString::number(hours) + QLatin1Char(':') + two(seconds / 60 % 60)
-                                      : QString::number(seconds / 60);
+    const QString minutes = hours > 0
+                                ? QString::number(hours) + QLatin1Char(':') + two(seconds / 60 % 60)
+                                : QString::number(seconds / 60);
     return minutes + QLatin1Char(':') + two(seconds % 60);
 }
 
@@ -60,7 +62,7 @@ PuzzleView::PuzzleView(PieceFiles& files, const PuzzleRandom& random, QWidget* p
     BuildStatusLine();
     sharpen_.setSingleShot(true);
     finish_.setSingleShot(true);
-    connect(&second_, &QTimer::timeout, this, [this] { ShowStatus(); });
+    connect(&second_, &QTimer::timeout, this, [this] { ShowTime(); });
     connect(&sharpen_, &QTimer::timeout, this, [this] { table_.SetDraft(false); });
     connect(&finish_, &QTimer::timeout, this, [this] { GameFinish(); });
     hide();
@@ -73,6 +75,9 @@ PuzzleView::~PuzzleView() {
 
 void PuzzleView::BuildStatusLine() {
     statusLine_ = new QWidget(this);
+    // The line belongs to the window and not to the table.
+    statusLine_->setBackgroundRole(QPalette::Window);
+    statusLine_->setForegroundRole(QPalette::WindowText);
     auto* const line = new QHBoxLayout(statusLine_);
     line->setContentsMargins(look::kSpacing / 2, look::kSpacing / 2, look::kSpacing / 2, 0);
     line->setSpacing(2 * look::kSpacing);
@@ -83,7 +88,6 @@ void PuzzleView::BuildStatusLine() {
     LabKeys = new ElidedLabel(statusLine_);
     LabKeys->setObjectName(QStringLiteral("LabKeys"));
     LabKeys->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    LabKeys->setEnabled(false); // fainter: it is read once
     line->addWidget(LabKeys, 1);
 }
 
@@ -102,7 +106,9 @@ Result<PuzzleView::Pieces> PuzzleView::GameIni(const QImage& picture, int side) 
     if (!IsPuzzleSide(side)) {
         return Error{ErrorCode::Failed, "no such puzzle"};
     }
-    const auto bitmap = BitmapOf(picture, palette().color(QPalette::Window));
+    Pieces pieces;
+    pieces.Whole = PuzzlePicture(picture, MostPixels(), palette().color(QPalette::Window));
+    const auto bitmap = BitmapOf(pieces.Whole);
     if (!bitmap) {
         return bitmap.Failure();
     }
@@ -110,25 +116,16 @@ Result<PuzzleView::Pieces> PuzzleView::GameIni(const QImage& picture, int side) 
     if (!plan) {
         return plan.Failure();
     }
-    const QSize whole = MostSeen(picture.size(), screen()->size() * screen()->devicePixelRatio());
-    const double scale = static_cast<double>(whole.width()) / picture.width();
-    Pieces pieces;
     pieces.Plan = plan.Value();
     for (int k = 1; k <= side * side; ++k) {
         const auto bytes = files_.TakePiece(k);
-        const PieceArea area = plan.Value().AreaOf(k);
-        const QSizeF most = QSizeF(area.Width, area.Height) * scale;
-        auto piece =
-            bytes ? PictureOf(bytes.Value(), QSize(static_cast<int>(std::ceil(most.width())),
-                                                   static_cast<int>(std::ceil(most.height()))))
-                  : Result<QImage>(bytes.Failure());
+        auto piece = bytes ? PictureOf(bytes.Value()) : Result<QImage>(bytes.Failure());
         if (!piece) {
             files_.RemoveLeftovers();
             return piece.Failure();
         }
         pieces.Pictures.push_back(std::move(piece.Value()));
     }
-    pieces.Whole = FittedTo(picture, whole);
     return pieces;
 }
 
@@ -153,12 +150,12 @@ Status PuzzleView::Start(const QImage& picture, int side, PuzzleKind kind) {
         table_.SetLook(1, PieceLook::Gap);
     }
     cursor_ = 1;
+    showCursor_ = false;
     time_.start();
     second_.start(1000);
     GameResize();
     ShowStatus();
     show();
-    raise();
     setFocus();
     return Done{};
 }
@@ -197,7 +194,7 @@ void PuzzleView::GameResize() {
     PutBack();
     layout_ = PieceLayout(plan_, QSizeF(viewport()->size()), shape_, devicePixelRatioF());
     table_.Lay(layout_, *board_);
-    table_.Frame(FrameItem::Kind::Cursor, 0);
+    table_.Frame(FrameItem::Kind::Cursor, showCursor_ && IsPlaying() ? cursor_ : 0);
 }
 
 void PuzzleView::PlaceStatusLine() {
@@ -210,14 +207,18 @@ void PuzzleView::ShowStatus() {
     if (!IsRunning()) {
         return;
     }
-    const bool solved = finish_.isActive();
-    const QString moves = texts_.Moves.arg(board_->Moves());
-    // Once it is solved the time stands still, for nobody asks for it any more.
-    LabMoves->setText(moves + QStringLiteral("    ") + texts_.Time.arg(ClockText(time_.elapsed())));
-    LabKeys->setText(solved ? texts_.Solved
-                            : (kind_ == PuzzleKind::JigSaw ? texts_.JigSawKeys : texts_.MovingKeys));
-    LabKeys->setToolTip(LabKeys->text());
-    setAccessibleDescription(LabMoves->text() + QLatin1Char(' ') + LabKeys->text());
+    ShowTime();
+    const QString& keys = kind_ == PuzzleKind::JigSaw ? texts_.JigSawKeys : texts_.MovingKeys;
+    const QString text = IsPlaying() ? keys : texts_.Solved;
+    LabKeys->setText(text);
+    LabKeys->setToolTip(text);
+    // Without the time, which would be read out every second.
+    setAccessibleDescription(texts_.Moves.arg(board_->Moves()) + QLatin1Char(' ') + text);
+}
+
+void PuzzleView::ShowTime() {
+    LabMoves->setText(texts_.Moves.arg(board_->Moves()) + QStringLiteral("    ") +
+                      texts_.Time.arg(ClockText(time_.elapsed())));
 }
 
 void PuzzleView::resizeEvent(QResizeEvent* event) {

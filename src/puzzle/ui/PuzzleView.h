@@ -94,6 +94,7 @@ private:
     void ResetPiece();
     void GameFinish();
     void ShowStatus();
+    void ShowTime();
     void PlaceStatusLine();
 
     [[nodiscard]] bool IsPlaying() const { return IsRunning() && !finish_.isActive(); }
@@ -105,8 +106,10 @@ private:
     void MovePiece(int position);
     void AfterMove();
     void ShowPointer(int position);
-
-    [[nodiscard]] bool HandleArrow(GapStep step);
+    void UseKeys();
+    void UseMouse(int position);
+    void HandleArrow(GapStep step);
+    void PickUpOrPutDown();
     [[nodiscard]] bool HandleKey(int key);
 
     PieceFiles& files_;
@@ -123,9 +126,10 @@ private:
     PieceLayout layout_;
     std::optional<Board> board_; // while a game is on
     std::optional<Hand> hand_;
-    int cursor_ = 1; // where the keyboard stands
+    int cursor_ = 1;          // where the keyboard stands
+    bool showCursor_ = false; // the keyboard was used last
     QElapsedTimer time_;
-    QTimer second_; // shows the time
+    QTimer second_;  // shows the time
     QTimer sharpen_; // after a resize
     QTimer finish_;  // runs while a solved puzzle is celebrated
 };

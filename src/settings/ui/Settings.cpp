@@ -59,8 +59,17 @@ void Settings::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
         TextSpch->setText(Words(ProgramText::SpeechSample));
+        TextSpch->setCursorPosition(0);
         ShowRecord();
         CombLan->setFocus();
+    }
+}
+
+// What could be undone in the window cannot be when it is opened anew.
+void Settings::hideEvent(QHideEvent* event) {
+    QDialog::hideEvent(event);
+    if (!event->spontaneous()) {
+        beforeDefault_.reset();
     }
 }
 
@@ -84,7 +93,7 @@ void Settings::ShowRecord() {
         IndexOf(rooms_.Texts, lists::kChimeIntervals, record.ChimeInterval).value_or(0));
     CombCom->setCurrentIndex(
         IndexOf(rooms_.Texts, lists::kModemPorts, record.ModemPort).value_or(0));
-    ComModem->setEnabled(HasModemPort(record));
+    ComModem->setEnabled(CombCom->currentIndex() > 0);
     TexGreeting->setText(ToQt(record.Greeting));
     TexFarewell->setText(ToQt(record.Farewell));
     TextRpt->setText(ToQt(record.SpeakRepeat));
@@ -143,8 +152,9 @@ void Settings::FillLanguages() {
         CombLan->addItem(ToQt(name));
     }
     CombLan->addItem(Words(ProgramText::LanguageEditor));
-    // The editor is no language to stand on.
-    CombLan->setCurrentIndex(std::min<int>(rooms_.Record.LanguageIndex, CombLan->count() - 2));
+    // The editor is no language to stand on, nor is one that the file does not have.
+    const int index = rooms_.Record.LanguageIndex;
+    CombLan->setCurrentIndex(index < CombLan->count() - 1 ? index : -1);
 }
 
 void Settings::LoadCaptions() {
@@ -159,6 +169,10 @@ void Settings::LoadCaptions() {
     VSBlue->setAccessibleName(Words(ProgramText::Blue));
     LabColour->setAccessibleName(Words(ProgramText::ColourShown));
     TextSpch->setAccessibleName(Words(ProgramText::TextToSpeak));
+    if (!TextSpch->isModified()) {
+        TextSpch->setText(Words(ProgramText::SpeechSample));
+        TextSpch->setCursorPosition(0);
+    }
     VSPitch->setAccessibleName(Label2->text());
     VSpeed->setAccessibleName(Label3->text());
     TextRpt->setAccessibleName(LabRpt->text());
@@ -174,9 +188,9 @@ void Settings::LoadTips() {
     ApplyTips(*this, rooms_.Texts, on ? TipTexts::Apply : TipTexts::Remove);
     ComDefault->setToolTip(on ? Words(ProgramText::UndoDefaults) : QString());
     ChkHidden->setToolTip(on ? Words(ProgramText::StartHiddenTip) : QString());
-    VSRed->setToolTip(VSRed->accessibleName());
-    VSGreen->setToolTip(VSGreen->accessibleName());
-    VSBlue->setToolTip(VSBlue->accessibleName());
+    for (QScrollBar* const bar : {VSRed, VSGreen, VSBlue}) {
+        bar->setToolTip(on ? bar->accessibleName() : QString());
+    }
 }
 
 void Settings::DoColor() {
@@ -186,6 +200,7 @@ void Settings::DoColor() {
 
 void Settings::Option_GotFocus(ColourRole role) {
     role_ = role;
+    options_[static_cast<std::size_t>(role)]->setChecked(true);
     ShowBars();
 }
 
@@ -195,7 +210,8 @@ void Settings::VSColour_Change(std::int16_t Colour::*component, int value) {
     DoColor();
 }
 
-// Whether the user has chosen a sound for the chime; one that cannot be played is told.
+// Whether the user has chosen a sound for the chime; one that cannot be played is told, and one
+// whose path the settings file could not hold: its fields end at a comma.
 bool Settings::TakeChimeFile() {
     const std::string& now = rooms_.Record.ChimeSound;
     const auto path = rooms_.Boxes.OpenFile(now.empty() ? kSoundFolder : now,
@@ -203,9 +219,10 @@ bool Settings::TakeChimeFile() {
     if (!path) {
         return false;
     }
-    const auto bytes = ToQt(*path).endsWith(QLatin1String(".wav"), Qt::CaseInsensitive)
-                           ? rooms_.Files.Read(*path, kWaveLimit)
-                           : Result<std::string>(Error{ErrorCode::Failed, *path});
+    const bool named = ToQt(*path).endsWith(QLatin1String(".wav"), Qt::CaseInsensitive) &&
+                       path->find(',') == std::string::npos;
+    const auto bytes = named ? rooms_.Files.Read(*path, kWaveLimit)
+                             : Result<std::string>(Error{ErrorCode::Failed, *path});
     if (!bytes || !IsWave(bytes.Value())) {
         rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
                            rooms_.Texts.Text(kFileOpenFault) + "\n" + *path, DialogIcon::Critical});
@@ -228,14 +245,15 @@ void Settings::CombChimes_Click(int index) {
 
 void Settings::CombCom_Click(int index) {
     rooms_.Record.ModemPort = rooms_.Texts.Text(lists::kModemPorts.Item(index));
-    ComModem->setEnabled(HasModemPort(rooms_.Record));
+    ComModem->setEnabled(index > 0);
 }
 
 void Settings::CombLan_Click(int index) {
     if (index == CombLan->count() - 1) {
         FillLanguages();
         rooms_.Actions.OpenLanguageEditor();
-    } else if (index != rooms_.Record.LanguageIndex) {
+    } else {
+        beforeDefault_.reset(); // its choices are in words of the language before
         rooms_.Actions.ChangeLanguage(index);
     }
 }
@@ -250,6 +268,7 @@ void Settings::TextRpt_Change() {
         rooms_.Record.SpeakRepeat = FromQt(TextRpt->text());
     } else {
         TextRpt->setText(ToQt(rooms_.Record.SpeakRepeat));
+        TextRpt->selectAll(); // as it was before the key, so that the next key replaces it
     }
 }
 
@@ -268,6 +287,7 @@ void Settings::Check4_Click() {
 void Settings::Check5_Click() {
     AppSettings& record = rooms_.Record;
     record.SpeechEnabled = Check[5]->isChecked() ? 1 : 0;
+    record.CharacterName = FromQt(CombChr->currentText());
     if (record.SpeechEnabled == 0 || !rooms_.Actions.LoadCharacter()) {
         record.SpeechEnabled = 0;
         record.SpeakPicture = 0;
@@ -290,6 +310,7 @@ void Settings::ComModem_Click() {
     setEnabled(false);
     const auto found = rooms_.Actions.FindModem();
     setEnabled(true);
+    ComModem->setFocus(); // which being disabled has taken
     rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
                        found ? TextOf(rooms_.Texts, ProgramText::ModemFound, *found)
                              : rooms_.Texts.Text(kModemNotFound),
@@ -303,22 +324,26 @@ void Settings::ComCngYr_Click() {
 }
 
 void Settings::ComDefault_Click() {
-    beforeDefault_ = rooms_.Record;
+    if (!beforeDefault_) {
+        beforeDefault_ = rooms_.Record; // what a second click finds are the defaults
+    }
     SetDefault(rooms_.Record);
-    ShowRecord();
-    LoadTips();
-    rooms_.Actions.ShowChoices();
-    DoColor();
+    TakeEffect();
 }
 
 void Settings::UndoDefault() {
     if (beforeDefault_) {
         rooms_.Record = *std::exchange(beforeDefault_, std::nullopt);
-        ShowRecord();
-        LoadTips();
-        rooms_.Actions.ShowChoices();
-        DoColor();
+        TakeEffect();
     }
+}
+
+void Settings::TakeEffect() {
+    ShowRecord();
+    LoadTips();
+    rooms_.Actions.ShowChoices();
+    rooms_.Actions.DateOrderChanged();
+    DoColor();
 }
 
 void Settings::ComFormat_Click() {
@@ -326,7 +351,7 @@ void Settings::ComFormat_Click() {
         rooms_.Boxes.Ask({rooms_.Texts.Text(texts::kMessengerTitle),
                           rooms_.Texts.Text(kFormatWarning) + "\n" + rooms_.Texts.Text(kFormatLoss),
                           DialogIcon::Critical},
-                         {});
+                         {{}, {}, DefaultAnswer::No});
     if (format) {
         Check[4]->setChecked(false);
         Check4_Click();

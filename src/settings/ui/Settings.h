@@ -37,7 +37,7 @@ public:
         SettingsActions& Actions;
     };
 
-    explicit Settings(const Rooms& rooms);
+    Settings(QWidget* parent, const Rooms& rooms);
 
     // Shows the window at the top left of the screen.
     void Open();
@@ -53,6 +53,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -96,10 +97,11 @@ private:
     void ComFormat_Click();
     void ComSet_Click();
     void UndoDefault();
+    void TakeEffect();
 
     Rooms rooms_;
     ColourRole role_ = ColourRole::Background; // whose colour the bars show
-    std::optional<AppSettings> beforeDefault_;
+    std::optional<AppSettings> beforeDefault_; // while the window stays open
 
     ScrolledContent* area_ = nullptr;
     QLabel* Label1 = nullptr;

@@ -8,6 +8,7 @@
 #include "ui/ElidedLabel.h"
 #include "ui/Look.h"
 #include "ui/ScrolledContent.h"
+#include "ui/SteadyList.h"
 
 #include <QBoxLayout>
 #include <QFormLayout>
@@ -62,13 +63,13 @@ QScrollBar* Bar(QWidget* parent, const char* name, int least, int greatest) {
     bar->setSingleStep(1);
     bar->setPageStep(16);
     bar->setMinimumHeight(kBarHeight);
-    bar->setFocusPolicy(Qt::StrongFocus);
+    new WheelGuard(bar);
     return bar;
 }
 
 } // namespace
 
-Settings::Settings(const Rooms& rooms) : rooms_(rooms) {
+Settings::Settings(QWidget* parent, const Rooms& rooms) : QDialog(parent), rooms_(rooms) {
     setObjectName(QStringLiteral("Settings"));
     setWindowFlag(Qt::WindowMinimizeButtonHint);
     BuildControls();
@@ -127,6 +128,7 @@ void Settings::BuildControls() {
     const auto list = [this](const char* name) {
         auto* const made = Named(new QComboBox(this), name);
         made->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        new WheelGuard(made);
         return made;
     };
     CombChimes = list("CombChimes");
@@ -134,6 +136,8 @@ void Settings::BuildControls() {
     CombLan = list("CombLan");
     CombChr = list("CombChr");
     CombCom = list("CombCom");
+    new SteadyList(CombLan); // each language passed on the way would be loaded
+    new SteadyList(CombChimes);
     TexGreeting = Named(new QLineEdit(this), "TexGreeting");
     TexFarewell = Named(new QLineEdit(this), "TexFarewell");
     TextSpch = Named(new QLineEdit(this), "TextSpch");

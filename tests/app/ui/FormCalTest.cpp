@@ -47,7 +47,7 @@ struct MonthScene : DiaryScene {
                     Desktop, Clock},
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
                     [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
-                    [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; },
+                    [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; }, [] {},
                     [this] { ++Quits; }}};
 
     void Show() {

@@ -146,7 +146,7 @@ TEST_P(LanguageRenderTest, TheMonth) {
     Windows all(GetParam());
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock},
-                  {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}});
+                  {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);
@@ -184,10 +184,11 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
 
 TEST_P(LanguageRenderTest, SettingsAndTheLanguageEditor) {
     Windows all(GetParam());
-    Settings settings({all.Settings, all.Texts, all.Tongues, all.Files, all.Boxes, all.Actions});
+    Settings settings(nullptr,
+                      {all.Settings, all.Texts, all.Tongues, all.Files, all.Boxes, all.Actions});
     settings.Open();
     ExpectNothingIsCut(settings);
-    LanEditor editor({all.Texts, all.Tongues, all.Boxes},
+    LanEditor editor(nullptr, {all.Texts, all.Tongues, all.Boxes},
                      {[](const StringTable&) {}, [] {}, [] {}});
     editor.Open("x", WeekStart::Monday);
     ExpectNothingIsCut(editor);

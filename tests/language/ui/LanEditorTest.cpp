@@ -26,6 +26,7 @@ struct EditorScene {
     int Saves = 0;
     int Closings = 0;
     LanEditor Window{
+        nullptr,
         {Texts, Tongues, Boxes},
         {[this](const StringTable&) { ++Changes; }, [this] { ++Saves; }, [this] { ++Closings; }}};
 
@@ -166,8 +167,8 @@ TEST(LanEditorTest, WhatCannotBeUsedIsNotSaved) {
     scene.Type("TexName", QStringLiteral("Deutsch"));
     scene.Show(TextGroup::Selectors, 31);
     scene.Type("TexTrans", QStringLiteral("De 2.30")); // two reminder kinds of one name
-    scene.Click("ComSave");
-    scene.Type("TexTrans", QStringLiteral("De 2.31"));
+    scene.Box("TexName")->setFocus();
+    EXPECT_EQ(scene.Texts.Texts[2][31], "De 2.31");
     scene.Files.FailWrites(Error{ErrorCode::Full, "disc full"});
     scene.Click("ComSave");
     EXPECT_EQ(scene.Boxes.Shown.size(), 3U);
@@ -189,9 +190,11 @@ TEST(LanEditorTest, CancellingAsksNothingAndClosingDoes) {
     EXPECT_EQ(scene.Boxes.Asked.size(), 0U);
     scene.Window.Open("Deutsch ", WeekStart::Monday);
     scene.Type("TexMon(0)", QStringLiteral("Jenner"));
+    QTest::keyClick(&scene.Window, Qt::Key_Escape); // and once more, at the question
+    EXPECT_TRUE(scene.Window.isVisible());
     scene.Boxes.Answers = {true};
     scene.Window.close();
-    EXPECT_EQ(scene.Boxes.Asked.size(), 1U);
+    EXPECT_EQ(scene.Boxes.Asked.size(), 2U);
     EXPECT_EQ(scene.OnFile(1).MonthNames[0], "Jenner");
     EXPECT_FALSE(scene.Window.isVisible());
 }

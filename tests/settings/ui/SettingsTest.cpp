@@ -6,8 +6,10 @@
 #include "language/LanguageBlock.h"
 #include "language/LanguageFile.h"
 #include "platform/qt/QtText.h"
+#include "settings/ListChoices.h"
 #include "settings/SettingsRules.h"
 
+#include <QAbstractItemView>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -62,7 +64,7 @@ struct SettingsScene {
 
     void Open() {
         Window = std::make_unique<Settings>(
-            Settings::Rooms{Record, Texts, Tongues, Files, Boxes, Actions});
+            nullptr, Settings::Rooms{Record, Texts, Tongues, Files, Boxes, Actions});
         Window->Open();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(Window.get()));
         Actions.Asked.clear();
@@ -80,14 +82,15 @@ struct SettingsScene {
         QTest::keyClick(control, Qt::Key_Space);
     }
 
-    // Chooses an item of a list with the keyboard, as a user does.
+    // Chooses an item of an open list with the keyboard, as a user does.
     void Choose(const char* list, int index) const {
         auto* const box = Find<QComboBox>(list);
-        QTest::keyClick(box, Qt::Key_Home);
+        box->showPopup();
+        QTest::keyClick(box->view(), Qt::Key_Home);
         for (int i = 0; i < index; ++i) {
-            QTest::keyClick(box, Qt::Key_Down);
+            QTest::keyClick(box->view(), Qt::Key_Down);
         }
-        EXPECT_EQ(box->currentIndex(), index);
+        QTest::keyClick(box->view(), Qt::Key_Return);
     }
 };
 
@@ -139,7 +142,6 @@ TEST(SettingsTest, TheBarsShowTheColourUpsideDownAndChangeIt) {
 TEST(SettingsTest, AValueOutOfABarsRangeStaysWhatItIs) {
     SettingsScene scene;
     scene.Record.SpeechPitch = 9999;
-    scene.Record.SpeakRepeat = "1";
     scene.Open();
     EXPECT_EQ(scene.Record.SpeechPitch, 9999);
 }
@@ -171,18 +173,20 @@ TEST(SettingsTest, AChimeIsAWaveFile) {
         std::size_t Messages;
     } rows[] = {{"/s/bell.wav", "Chime", 0}, {"/s/BELL.WAV", "Chime", 0},
                 {"/s/song.mp3", "None", 1},  {"/s/text.wav", "None", 1},
-                {"/s/gone.wav", "None", 1},  {std::nullopt, "None", 0}};
+                {"/s/gone.wav", "None", 1},  {"/s/ding, dong.wav", "None", 1},
+                {std::nullopt, "None", 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.Chosen.value_or("cancelled"));
         SettingsScene scene;
-        for (const char* const path : {"/s/bell.wav", "/s/BELL.WAV", "/s/song.mp3"}) {
+        for (const char* const path :
+             {"/s/bell.wav", "/s/BELL.WAV", "/s/song.mp3", "/s/ding, dong.wav"}) {
             scene.Files.Put(path, wave);
         }
         scene.Files.Put("/s/text.wav", "no sound");
         scene.Record.ChimeType = "None";
         scene.Open();
         scene.Boxes.Files = {row.Chosen};
-        QTest::keyClick(scene.Find<QComboBox>("CombChimes"), Qt::Key_Up);
+        scene.Choose("CombChimes", 1);
         EXPECT_EQ(scene.Record.ChimeType, row.Type);
         EXPECT_EQ(scene.Find<QComboBox>("CombChimes")->currentText(), ToQt(row.Type));
         EXPECT_EQ(scene.Boxes.Shown.size(), row.Messages);
@@ -213,15 +217,20 @@ TEST(SettingsTest, TheModemIsTestedOnlyWhereAPortIsChosen) {
 
 TEST(SettingsTest, LanguagesAreChosenAndTheLastItemIsTheEditor) {
     SettingsScene scene;
+    scene.Record.LanguageIndex = 5;
     scene.Open();
     auto* const list = scene.Find<QComboBox>("CombLan");
     EXPECT_EQ(list->count(), 3);
     EXPECT_EQ(list->itemText(2), QStringLiteral("Language Editor"));
+    EXPECT_EQ(list->currentIndex(), -1); // the language in use is not in the file
     QTest::keyClick(list, Qt::Key_Down);
+    EXPECT_EQ(scene.Actions.Asked, std::vector<std::string>{}); // the list is open, no more
+    scene.Choose("CombLan", 1);
     EXPECT_EQ(scene.Actions.Asked, std::vector<std::string>{"language 1"});
-    QTest::keyClick(list, Qt::Key_End);
+    scene.Record.LanguageIndex = 1;
+    scene.Choose("CombLan", 2);
     EXPECT_EQ(scene.Actions.Asked.back(), "editor");
-    EXPECT_EQ(list->currentIndex(), 0); // the editor is no language
+    EXPECT_EQ(list->currentIndex(), 1); // the editor is no language
 }
 
 TEST(SettingsTest, SpeechThatCannotBeHadSwitchesItselfOff) {
@@ -254,6 +263,7 @@ TEST(SettingsTest, DefaultsCanBeTakenBack) {
     EXPECT_EQ(scene.Find<QLineEdit>("TexFarewell")->text(), QStringLiteral("My Master."));
     EXPECT_EQ(scene.Find<QScrollBar>("VSRed")->value(), 256 - 193);
     EXPECT_THAT(scene.Actions.Asked, testing::Contains("colour"));
+    scene.Click("ComDefault"); // twice is no harm
     QTest::keyClick(scene.Find<QPushButton>("ComDefault"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(scene.Record, before);
     EXPECT_EQ(scene.Find<QLineEdit>("TexFarewell")->text(), QStringLiteral("My Lady."));
@@ -301,8 +311,11 @@ TEST(SettingsTest, AnotherLanguageKeepsWhatIsChosenAndTyped) {
     greeting->setFocus();
     QTest::keyClicks(greeting, QStringLiteral(" now"));
     const std::string typed = scene.Record.Greeting;
+    const StringTable before = scene.Texts;
     scene.Texts = ReadLanguage(scene.Files.Content("/k/Lan.dat").value_or(""), 1).Value();
+    TranslateChoices(scene.Record, before, scene.Texts);
     scene.Window->LoadCaptions();
+    scene.Window->ShowRecord();
     EXPECT_EQ(scene.Find<QLabel>("Label5")->text(), QStringLiteral("De 3.21"));
     EXPECT_EQ(scene.Find<QCheckBox>("Check1")->toolTip(), QStringLiteral("De 4.11"));
     EXPECT_EQ(scene.Find<QComboBox>("CombChimes")->currentText(), QStringLiteral("De 2.2"));

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kGlide = 140; // milliseconds that an exchange takes
 constexpr int kLargestAnimated = 5;
+constexpr double kBeside = 0.15; // of a cell: so far a piece is held from where it would be put
 
 // How long a piece takes into the gap: the more pieces, the faster, and no time on large boards.
 int MoveTime(int side) {
@@ -52,7 +53,7 @@ void PuzzleView::Lift(Holder by, int position, const QPointF& grip) {
 
 void PuzzleView::Aim(int target) {
     hand_->Target = target;
-    table_.Frame(FrameItem::Kind::Target, target == hand_->From ? 0 : target);
+    table_.Frame(FrameItem::Kind::Target, target);
 }
 
 void PuzzleView::PutBack() {
@@ -126,8 +127,7 @@ void PuzzleView::mousePressEvent(QMouseEvent* event) {
         return;
     }
     PutBack();
-    table_.Frame(FrameItem::Kind::Cursor, 0);
-    cursor_ = position;
+    UseMouse(position);
     if (kind_ == PuzzleKind::MovingPiece) {
         MovePiece(position);
         return;
@@ -191,57 +191,85 @@ void PuzzleView::hideEvent(QHideEvent* event) {
     }
 }
 
-bool PuzzleView::HandleArrow(GapStep step) {
+void PuzzleView::UseKeys() {
+    showCursor_ = true;
+    if (!hand_) {
+        table_.Frame(FrameItem::Kind::Cursor, cursor_);
+        return;
+    }
+    // Not quite over the target, so that one sees what lies there.
+    const QRectF cell = layout_.Cell(cursor_);
+    table_.Frame(FrameItem::Kind::Cursor, 0);
+    table_.MoveTo(hand_->Piece, cell.topLeft() - QPointF(cell.width(), cell.height()) * kBeside);
+    Aim(cursor_);
+}
+
+void PuzzleView::UseMouse(int position) {
+    showCursor_ = false;
+    cursor_ = position;
+    table_.Frame(FrameItem::Kind::Cursor, 0);
+}
+
+void PuzzleView::HandleArrow(GapStep step) {
     if (kind_ == PuzzleKind::MovingPiece) {
         // A piece that moves up comes from below the gap.
         if (const auto from = board_->Beside(board_->PzGap(), Opposite(step))) {
             MovePiece(*from);
         }
-        return true;
-    }
-    if (hand_ && hand_->By == Holder::Mouse) {
-        return true;
+        return;
     }
     // The first arrow only shows where the keyboard stands.
-    cursor_ = table_.IsFramed() ? board_->Beside(cursor_, step).value_or(cursor_) : cursor_;
-    table_.Frame(FrameItem::Kind::Cursor, cursor_);
+    cursor_ = showCursor_ ? board_->Beside(cursor_, step).value_or(cursor_) : cursor_;
+    UseKeys();
+}
+
+void PuzzleView::PickUpOrPutDown() {
     if (hand_) {
-        // Not quite over the target, so that one sees what lies there.
-        const QRectF cell = layout_.Cell(cursor_);
-        table_.MoveTo(hand_->Piece,
-                      cell.topLeft() - QPointF(cell.width(), cell.height()) * kLiftedBy);
-        Aim(cursor_);
+        PutDown();
+    } else {
+        Lift(Holder::Keys, cursor_, {});
+    }
+    if (IsPlaying()) {
+        UseKeys();
+    }
+}
+
+bool PuzzleView::HandleKey(int key) {
+    const bool mouseHolds = hand_ && hand_->By == Holder::Mouse;
+    const auto step = StepOf(key);
+    if (step || key == Qt::Key_Space) {
+        // One hand at a time; and the moving-piece game has nothing to pick up.
+        if (step && !mouseHolds) {
+            HandleArrow(*step);
+        } else if (kind_ == PuzzleKind::JigSaw && !mouseHolds) {
+            PickUpOrPutDown();
+        }
+        return true;
+    }
+    if (key == Qt::Key_H) {
+        table_.Show(PieceTable::Sight::WholePicture);
+        return true;
+    }
+    if (key != Qt::Key_Escape || !hand_) {
+        return false;
+    }
+    cursor_ = hand_->From;
+    PutBack();
+    if (!mouseHolds) {
+        UseKeys();
     }
     return true;
 }
 
-bool PuzzleView::HandleKey(int key) {
-    if (const auto step = StepOf(key)) {
-        return HandleArrow(*step);
-    }
-    switch (key) {
-    case Qt::Key_H: table_.Show(PieceTable::Sight::WholePicture); return true;
-    case Qt::Key_Space:
-        if (kind_ == PuzzleKind::JigSaw) {
-            PickUpOrPutDown();
-        }
-        return true;
-    case Qt::Key_Escape:
-        if (!hand_) {
-            return false;
-        }
-        cursor_ = hand_->From;
-        if (hand_->By == Holder::Keys) {
-            table_.Frame(FrameItem::Kind::Cursor, cursor_);
-        }
-        PutBack();
-        return true;
-    default: return false;
-    }
-}
-
 void PuzzleView::keyPressEvent(QKeyEvent* event) {
-    event->setAccepted(IsPlaying() && HandleKey(event->key()));
+    constexpr auto kCommands = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (!IsRunning() || (event->modifiers() & kCommands) != 0) {
+        event->ignore();
+        return;
+    }
+    // A key that is held down goes on stepping, but does not pick up and put down in turns.
+    const bool again = event->isAutoRepeat() && !StepOf(event->key());
+    event->setAccepted(!IsPlaying() || again || HandleKey(event->key()));
 }
 
 void PuzzleView::keyReleaseEvent(QKeyEvent* event) {
