@@ -10,4 +10,10 @@ namespace kestrova {
     return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
 
+// Gives a control its name, and back the control.
+template<typename Control> [[nodiscard]] Control* Named(Control* control, const char* name) {
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
 } // namespace kestrova

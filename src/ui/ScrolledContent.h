@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QScrollArea>
 
+#include <ranges>
+
 namespace kestrova {
 
 // The content of a window, which asks for all the room it needs and is scrolled only where the
@@ -13,6 +15,7 @@ class ScrolledContent : public QScrollArea {
 public:
     ScrolledContent(QWidget* content, QWidget* parent) : QScrollArea(parent) {
         setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus); // the tab key goes from control to control
         setWidgetResizable(true);
         setWidget(content);
     }
@@ -32,9 +35,9 @@ public:
             control->ensurePolished();
             control->updateGeometry();
         }
-        for (auto control = controls.rbegin(); control != controls.rend(); ++control) {
-            if ((*control)->layout() != nullptr) {
-                (*control)->layout()->activate(); // inner ones first
+        for (QWidget* const control : controls | std::views::reverse) {
+            if (control->layout() != nullptr) {
+                control->layout()->activate(); // inner ones first
             }
         }
         updateGeometry();

@@ -109,7 +109,7 @@ TEST(SharedStoreTest, ALockedDiaryIsBusyAndTheClockDoesNotWaitForIt) {
     scene.Files.Put("/net/bob/DiaryDat/Saving.tmp", "left behind");
     scene.Store.GetData(kBobsFolder);
     EXPECT_EQ(scene.LastMessage(), "Diary Busy");
-    EXPECT_LE(scene.Files.Waited.count(), 700) << "two waits are no longer than one";
+    EXPECT_LE(scene.Files.Waited.count(), 350) << "two waits are no longer than one";
     EXPECT_EQ(scene.Shown(), "bob's");
     scene.Files.ReleaseLock(kBobsPath);
     EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded);

@@ -5,7 +5,9 @@
 
 readonly main_title='^Kestrova$'
 readonly message_title='^Kestrova Messenger'
-readonly page_title='^Diary'
+readonly note_title='^Text Editor$'
+page_title='^Diary' # in English: a scene that goes to another language sets these anew
+settings_title='^Settings$'
 readonly page_height=377 # pixels below the menu bar: 5650 twips
 readonly escape_hatch=5  # seconds for one question to the X server
 
@@ -41,6 +43,22 @@ press() { xdotool key --delay 30 "$@"; }
 
 type_text() { xdotool type --delay 30 "$1"; }
 
+# Presses one key so many times.
+press_times() {
+    local keys
+    mapfile -t keys < <(yes "$2" | head -n "$1")
+    ((${#keys[@]} == 0)) || press "${keys[@]}"
+}
+
+# Takes the keyboard so many controls further, or back when the number is negative.
+tab_by() {
+    if (($1 < 0)); then
+        press_times $((-$1)) shift+Tab
+    else
+        press_times "$1" Tab
+    fi
+}
+
 # Clicks at a place in a window, in pixels.
 click() { xdotool mousemove --window "$1" "$2" "$3" click 1; }
 
@@ -50,11 +68,56 @@ size_of() {
         awk -F= '$1 == "WIDTH" { width = $2 } $1 == "HEIGHT" { print width, $2 }'
 }
 
+# Prints the place of a window on the screen, without its frame.
+place_of() {
+    xwininfo -id "$1" |
+        awk '/Absolute upper-left X/ { x = $NF } /Absolute upper-left Y/ { print x, $NF }'
+}
+
 is_gone() { ! xprop -id "$1" WM_STATE 2>/dev/null | grep -q 'Normal'; }
+
+# --- What a window shows -------------------------------------------------------------------------
+
+need_pictures() { command -v import >/dev/null || skip "ImageMagick is not installed"; }
+
+# The mouse lights up what it stands over.
+put_mouse_away() { xdotool mousemove 1279 799; }
+
+# Prints the pixels of a part of a window that nothing covers: `pixels_of WINDOW WIDTHxHEIGHT+X+Y`.
+pixels_of() {
+    timeout "$escape_hatch" import -silent -window "$1" -crop "$2" +repage -depth 8 rgb:-
+}
+
+# Prints a name for what that part shows: the same pixels, the same name.
+look_of() { pixels_of "$@" | sha256sum; }
+
+# The same, when it is no longer being drawn.
+look_at_rest() {
+    local look last='' end=$((SECONDS + patience))
+    until look=$(look_of "$@") && [[ $look == "$last" ]]; do
+        ((SECONDS < end)) || return 1
+        last=$look
+        sleep 0.05
+    done
+    echo "$look"
+}
+
+# Prints red, green and blue at a place in a window: "193 193 193".
+colour_at() { pixels_of "$1" "1x1+$2+$3" | od -An -tu1 | awk '{ print $1, $2, $3 }'; }
 
 # --- The main window -----------------------------------------------------------------------------
 
 await_main_window() { await_window "$main_title" >/dev/null; }
+
+# Prints the colour behind the dates, from the right edge of their card.
+card_colour() {
+    local window size
+    window=$(find_window "$main_title")
+    size=$(size_of "$window")
+    colour_at "$window" $((${size% *} - 22)) $((${size#* } / 2))
+}
+
+card_colour_is() { [[ $(card_colour) == "$1" ]]; }
 
 # --- Message boxes -------------------------------------------------------------------------------
 
@@ -75,6 +138,21 @@ accept_box() {
     press "${2:-Return}"
     await "the message to go: $1" "$patience" is_gone "$box"
 }
+
+# Prints a dialog of the program that is none of the windows given, whatever its title.
+find_other_box() {
+    local window
+    for window in $(timeout "$escape_hatch" \
+        xdotool search --onlyvisible --all --pid "$program" --name '' 2>/dev/null); do
+        if [[ " $* " != *" $window "* ]] && is_box "$window"; then
+            echo "$window"
+            return 0
+        fi
+    done
+    return 1
+}
+
+sees_other_box() { find_other_box "$@" >/dev/null; }
 
 # --- The reminder window ------------------------------------------------------------------------
 
@@ -142,4 +220,55 @@ type_event() {
         type_text "$2"
         press Tab Tab
     fi
+}
+
+# "Event Details": opens the note of the row that is edited; $note is its window.
+open_note() {
+    click_page 4800 5225
+    note=$(await_window "$note_title")
+    go_to "$note"
+}
+
+close_note() {
+    go_to "$note"
+    press Escape
+    await "the note to close" "$patience" is_gone "$note"
+}
+
+# Prints a name for what the ten rows show: the same rows, the same name.
+look_of_rows() {
+    local size
+    size=$(size_of "$page")
+    put_mouse_away
+    look_at_rest "$page" "${size% *}x208+0+$((${size#* } - page_height + 78))"
+}
+
+rows_look_like() { [[ $(look_of_rows) == "$1" ]]; }
+
+# Chooses from the list of diaries: the first is the user's own, the last adds one.
+choose_diary() {
+    go_to "$page"
+    click_page 11000 4770
+    press Home
+    press_times $(($1 - 1)) Down
+    press Return
+}
+
+# --- The settings window -------------------------------------------------------------------------
+
+# Opens it, with the keyboard on the list of languages; $settings is its window.
+open_settings() {
+    local window
+    window=$(await_window "$main_title")
+    go_to "$window"
+    press ctrl+comma
+    settings=$(await_window "$settings_title")
+    go_to "$settings"
+}
+
+# Return is "Save", wherever the keyboard stands.
+save_settings() {
+    go_to "$settings"
+    press Return
+    await "the settings window to close" "$patience" is_gone "$settings"
 }

@@ -33,6 +33,27 @@ is_whole_diary() { [[ $(wc -l <"$(diary_file)") == "$diary_lines" ]]; }
 
 is_whole_settings() { [[ $(wc -l <"$(settings_file)") == "$settings_lines" ]]; }
 
+# Prints the number of events there are.
+count_all_events() { awk 'NR % 10 == 3 && $0 != "\r" { n++ } END { print n + 0 }' "$(diary_file)"; }
+
+# Prints the path of the note of an event; that of a new one has slot 11 until it is accepted.
+note_file() {
+    local letter=65 day=$(($3 + 65)) code name=
+    if (($3 >= 25)); then
+        letter=97
+        day=$(($3 + 25))
+    fi
+    for code in $(($4 + letter)) "$day" $(($2 + letter)) $(($1 + letter)); do
+        printf -v code '\\x%x' "$code"
+        printf -v code '%b' "$code"
+        name+=$code
+    done
+    echo "$house/program/DiaryDat/$name.txt"
+}
+
+# Whether a note holds exactly these lines: `note_is YEAR MONTH DAY SLOT LINE...`.
+note_is() { printf '%s\r\n' "${@:5}" | cmp -s - "$(note_file "${@:1:4}")"; }
+
 # Writes an empty diary with the events given as lines "YEAR MONTH DAY SLOT|HOUR|MINUTE|MESSAGE|
 # REPEAT|REMINDER". The file changes at once, as a careful program writes it.
 write_diary() {
@@ -55,11 +76,16 @@ settings_year() { sed -n 2p "$(settings_file)" | tr -d ' \r'; }
 
 settings_year_is() { [[ $(settings_year) == "$1" ]]; }
 
+# Prints a line of the settings without the blanks around it.
+settings_line() { sed -n "$1p" "$(settings_file)" | tr -d '\r' | sed 's/^ *//;s/ *$//'; }
+
+settings_line_is() { [[ $(settings_line "$1") == "$2" ]]; }
+
 set_settings_year() { sed -i "2s/.*/ $1 \r/" "$(settings_file)"; }
 
 # Prints what lies in the program folder under a name that only a save under way has.
 temporary_files() {
-    find "$house/program/" -name '*.dat.?*' ! -name '*.lock' -o -name Saving.tmp
+    find "$house/program/" -name '*.dat.?*' ! -name '*.lock' -o -name '*.new-*' -o -name Saving.tmp
 }
 
 # Fails unless the files are whole and nothing half written lies about.

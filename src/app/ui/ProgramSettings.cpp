@@ -21,13 +21,13 @@ LanEditor& Program::LanguageEditor() {
         lanEditor_ = std::make_unique<LanEditor>(
             &formCal_, LanEditor::Rooms{texts_, languages_, dialogs_},
             LanEditor::Hooks{[this](const StringTable& before) { TextsChanged(before); },
-                             [this] { LanguageSaved(); }, [this] { SettingsWindow().Open(); }});
+                             [this] { LanguageSaved(); }, [this] { SettingsWindow().ShowSettings(); }});
     }
     return *lanEditor_;
 }
 
 void Program::OpenSettings() {
-    SettingsWindow().Open();
+    SettingsWindow().ShowSettings();
 }
 
 void Program::OpenLanguageEditor() {

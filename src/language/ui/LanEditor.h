@@ -58,6 +58,7 @@ private:
     void BuildControls();
     [[nodiscard]] QLayout* BuildNames();
     [[nodiscard]] QLayout* BuildTexts();
+    void OrderTabs();
     void Connect();
     void ShowFont();
     void FillEntries();

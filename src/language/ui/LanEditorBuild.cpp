@@ -10,6 +10,8 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 
+#include <vector>
+
 namespace kestrova {
 
 namespace {
@@ -44,14 +46,14 @@ LanEditor::LanEditor(QWidget* parent, const Rooms& rooms, Hooks hooks)
     buttons->addWidget(ComCancel);
     buttons->addWidget(ComSave);
     all->addLayout(buttons);
+    OrderTabs();
     Connect();
     LoadCaptions();
 }
 
 void LanEditor::BuildControls() {
     const auto label = [this](const char* name) {
-        auto* const made = new QLabel(this);
-        made->setObjectName(QLatin1String(name));
+        auto* const made = Named(new QLabel(this), name);
         made->setTextFormat(Qt::PlainText);
         return made;
     };
@@ -84,21 +86,18 @@ void LanEditor::BuildControls() {
         LabEnglishDay[day] = new QLabel(this);
         LabEnglishDay[day]->setBuddy(TexDay[day]);
     }
-    CombTop = new QComboBox(this);
-    CombTop->setObjectName(QStringLiteral("CombTop"));
+    CombTop = Named(new QComboBox(this), "CombTop");
     LabTexts->setBuddy(CombTop);
     LabName->setBuddy(TexName);
     for (const char* const name : kGroupNames) {
         CombTop->addItem(QLatin1String(name));
     }
-    CombSel = new QComboBox(this);
-    CombSel->setObjectName(QStringLiteral("CombSel"));
+    CombSel = Named(new QComboBox(this), "CombSel");
     CombSel->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     CombSel->setMinimumContentsLength(40);
     CombSel->setMaxVisibleItems(20);
     const auto button = [this](const char* name) {
-        auto* const made = new QPushButton(this);
-        made->setObjectName(QLatin1String(name));
+        auto* const made = Named(new QPushButton(this), name);
         made->setAutoDefault(false);
         return made;
     };
@@ -155,6 +154,20 @@ QLayout* LanEditor::BuildTexts() {
     days->setColumnStretch(2, 1);
     rows->addLayout(days);
     return rows;
+}
+
+// The tab key goes from a month's name to its menu entry, and on as the eye does.
+void LanEditor::OrderTabs() {
+    std::vector<QWidget*> order = {TexName};
+    for (std::size_t month = 0; month < kMonths; ++month) {
+        order.insert(order.end(), {TexMon[month], TexMn[month]});
+    }
+    order.insert(order.end(), {CombTop, CombSel, TexTrans});
+    order.insert(order.end(), TexDay.begin(), TexDay.end());
+    order.insert(order.end(), {ComFont, ComCancel, ComSave});
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
 }
 
 void LanEditor::Connect() {

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include <algorithm>
 #include <utility>
 
 namespace kestrova {
@@ -121,15 +120,22 @@ void PuzzleView::ShowPointer(int position) {
 }
 
 void PuzzleView::mousePressEvent(QMouseEvent* event) {
-    const int position = IsPlaying() ? layout_.PositionAt(event->position()) : 0;
-    if (event->button() != Qt::LeftButton || position == 0) {
+    if (event->button() != Qt::LeftButton) {
         event->ignore();
+        return;
+    }
+    // A click beside the pieces does nothing, here or in whatever lies below.
+    const int position = IsPlaying() ? layout_.PositionAt(event->position()) : 0;
+    if (position == 0) {
         return;
     }
     PutBack();
     UseMouse(position);
     if (kind_ == PuzzleKind::MovingPiece) {
         MovePiece(position);
+        if (IsPlaying()) {
+            ShowPointer(position);
+        }
         return;
     }
     Lift(Holder::Mouse, position, event->position() - layout_.Cell(position).topLeft());

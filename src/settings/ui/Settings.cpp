@@ -45,7 +45,7 @@ QString Settings::Words(ProgramText text) const {
     return ToQt(TextOf(rooms_.Texts, text));
 }
 
-void Settings::Open() {
+void Settings::ShowSettings() {
     setEnabled(true);
     area_->FitWindow();
     move(screen()->availableGeometry().topLeft());

@@ -40,7 +40,7 @@ public:
     Settings(QWidget* parent, const Rooms& rooms);
 
     // Shows the window at the top left of the screen.
-    void Open();
+    void ShowSettings();
 
     // Shows the settings as they are in the record.
     void ShowRecord();
@@ -59,6 +59,7 @@ protected:
 private:
     void BuildControls();
     void BuildFrames();
+    void OrderTabs();
     void ConnectClock();
     void ConnectColours();
     void ConnectOperation();

@@ -7,6 +7,7 @@
 #include "settings/SettingsRules.h"
 #include "ui/ElidedLabel.h"
 #include "ui/Look.h"
+#include "ui/Names.h"
 #include "ui/ScrolledContent.h"
 #include "ui/SteadyList.h"
 
@@ -18,6 +19,7 @@
 #include <QShortcut>
 
 #include <functional>
+#include <initializer_list>
 #include <utility>
 
 namespace kestrova {
@@ -52,11 +54,6 @@ private:
     std::function<QColor()> colour_;
 };
 
-template<typename Control> Control* Named(Control* control, const char* name) {
-    control->setObjectName(QLatin1String(name));
-    return control;
-}
-
 QScrollBar* Bar(QWidget* parent, const char* name, int least, int greatest) {
     auto* const bar = Named(new QScrollBar(Qt::Vertical, parent), name);
     bar->setRange(least, greatest);
@@ -74,6 +71,7 @@ Settings::Settings(QWidget* parent, const Rooms& rooms) : QDialog(parent), rooms
     setWindowFlag(Qt::WindowMinimizeButtonHint);
     BuildControls();
     BuildFrames();
+    OrderTabs();
     ConnectClock();
     ConnectColours();
     ConnectOperation();
@@ -319,6 +317,21 @@ QWidget* Settings::BuildButtons() {
     row->addWidget(ComSet);
     ComSet->setMinimumWidth(kLeastButtonWidth);
     return bar;
+}
+
+// The tab key goes through the frames as the eye does.
+void Settings::OrderTabs() {
+    QWidget* previous = CombLan;
+    for (QWidget* const next : std::initializer_list<QWidget*>{
+             Check[1],  Check[2],    Check[3],    Check[4],     ChkHidden,   Check[9],
+             Check[10], options_[0], options_[1], options_[2],  options_[3], VSRed,
+             VSGreen,   VSBlue,      CombChimes,  CombInterval, TexGreeting, TexFarewell,
+             ChkFscr,   ChkRep,      Check[5],    Check[6],     Check[7],    Check[8],
+             CombChr,   TextRpt,     TextSpch,    ComSpchTest,  VSPitch,     VSpeed,
+             CombCom,   ComModem,    ComDefault,  ComCngYr,     ComFormat,   ComSet}) {
+        setTabOrder(previous, next);
+        previous = next;
+    }
 }
 
 void Settings::ConnectClock() {

@@ -186,7 +186,7 @@ TEST_P(LanguageRenderTest, SettingsAndTheLanguageEditor) {
     Windows all(GetParam());
     Settings settings(nullptr,
                       {all.Settings, all.Texts, all.Tongues, all.Files, all.Boxes, all.Actions});
-    settings.Open();
+    settings.ShowSettings();
     ExpectNothingIsCut(settings);
     LanEditor editor(nullptr, {all.Texts, all.Tongues, all.Boxes},
                      {[](const StringTable&) {}, [] {}, [] {}});

@@ -65,7 +65,7 @@ struct SettingsScene {
     void Open() {
         Window = std::make_unique<Settings>(
             nullptr, Settings::Rooms{Record, Texts, Tongues, Files, Boxes, Actions});
-        Window->Open();
+        Window->ShowSettings();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(Window.get()));
         Actions.Asked.clear();
     }
@@ -293,10 +293,10 @@ TEST(SettingsTest, SavingHidesTheWindowUnlessItFails) {
     scene.Actions.Saves = true;
     scene.Click("ComSet");
     EXPECT_FALSE(scene.Window->isVisible());
-    scene.Window->Open();
+    scene.Window->ShowSettings();
     QTest::keyClick(scene.Window.get(), Qt::Key_Escape);
     EXPECT_FALSE(scene.Window->isVisible());
-    scene.Window->Open();
+    scene.Window->ShowSettings();
     scene.Click("ComCngYr");
     EXPECT_EQ(scene.Actions.Asked.back(), "year");
     EXPECT_FALSE(scene.Window->isVisible());
