@@ -115,6 +115,8 @@ constexpr ProgramTextRow kRows[] = {
 
     {StartHidden, "Verborgen wachten"},
     {StartHiddenTip, "De kalender wacht buiten beeld tot er een melding is of tot u hem start."},
+    {OtherYear, "Deze agenda hoort bij het jaar %1. Ze kan worden getoond zodra het programma van "
+                "de eigenaar haar naar dit jaar heeft gebracht."},
 };
 static_assert(IsWhole(kRows));
 

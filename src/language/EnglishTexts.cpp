@@ -113,6 +113,8 @@ constexpr ProgramTextRow kRows[] = {
 
     {StartHidden, "Wait Hidden"},
     {StartHiddenTip, "The calendar waits out of sight until a reminder is due or you start it."},
+    {OtherYear, "This diary belongs to the year %1. It can be shown when its owner's program has "
+                "brought it to this year."},
 };
 static_assert(IsWhole(kRows));
 

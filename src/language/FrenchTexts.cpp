@@ -116,6 +116,8 @@ constexpr ProgramTextRow kRows[] = {
     {StartHidden, "Attendre masqué"},
     {StartHiddenTip, "Le calendrier attend sans s’afficher jusqu’à l’échéance d’un rappel ou "
                      "jusqu’à ce que vous le lanciez."},
+    {OtherYear, "Cet agenda appartient à l’année %1. Il pourra être affiché quand le programme de "
+                "son propriétaire l’aura amené à cette année."},
 };
 static_assert(IsWhole(kRows));
 

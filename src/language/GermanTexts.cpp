@@ -119,6 +119,8 @@ constexpr ProgramTextRow kRows[] = {
     {StartHidden, "Verborgen warten"},
     {StartHiddenTip,
      "Der Kalender wartet unsichtbar, bis eine Erinnerung fällig ist oder Sie ihn starten."},
+    {OtherYear, "Dieser Terminplaner gehört zum Jahr %1. Er lässt sich anzeigen, sobald das "
+                "Programm seines Besitzers ihn in dieses Jahr gebracht hat."},
 };
 static_assert(IsWhole(kRows));
 

@@ -117,6 +117,8 @@ constexpr ProgramTextRow kRows[] = {
     {StartHidden, "Attendi nascosto"},
     {StartHiddenTip,
      "Il calendario attende senza mostrarsi finché non scade un avviso o non lo si avvia."},
+    {OtherYear, "Questa agenda appartiene all’anno %1. Si potrà mostrare quando il programma del "
+                "suo proprietario l’avrà portata a quest’anno."},
 };
 static_assert(IsWhole(kRows));
 

@@ -114,6 +114,8 @@ constexpr ProgramTextRow kRows[] = {
     {StartHidden, "Aguardar oculto"},
     {StartHiddenTip, "O calendário aguarda sem aparecer até que chegue a hora de um lembrete ou "
                      "que você o inicie."},
+    {OtherYear, "Esta agenda pertence ao ano %1. Poderá ser mostrada quando o programa do seu dono "
+                "a trouxer para este ano."},
 };
 static_assert(IsWhole(kRows));
 

@@ -116,6 +116,7 @@ enum class ProgramText {
 
     StartHidden,
     StartHiddenTip,
+    OtherYear,
 
     Count
 };

@@ -115,6 +115,8 @@ constexpr ProgramTextRow kRows[] = {
     {StartHidden, "Esperar oculto"},
     {StartHiddenTip,
      "El calendario espera sin mostrarse hasta que llegue la hora de un aviso o usted lo inicie."},
+    {OtherYear, "Esta agenda pertenece al año %1. Se podrá mostrar cuando el programa de su dueño "
+                "la haya traído a este año."},
 };
 static_assert(IsWhole(kRows));
 
