@@ -5,8 +5,6 @@
 #include <QScreen>
 #include <QScrollArea>
 
-#include <ranges>
-
 namespace kestrova {
 
 // The content of a window, which asks for all the room it needs and is scrolled only where the
@@ -35,9 +33,9 @@ public:
             control->ensurePolished();
             control->updateGeometry();
         }
-        for (QWidget* const control : controls | std::views::reverse) {
-            if (control->layout() != nullptr) {
-                control->layout()->activate(); // inner ones first
+        for (qsizetype i = controls.size(); i-- > 0;) {
+            if (controls[i]->layout() != nullptr) {
+                controls[i]->layout()->activate(); // inner ones first
             }
         }
         updateGeometry();
