@@ -117,6 +117,22 @@ constexpr ProgramTextRow kRows[] = {
     {StartHiddenTip, "De kalender wacht buiten beeld tot er een melding is of tot u hem start."},
     {OtherYear, "Deze agenda hoort bij het jaar %1. Ze kan worden getoond zodra het programma van "
                 "de eigenaar haar naar dit jaar heeft gebracht."},
+
+    {MenuGame, "&Spel"},
+    {MenuGameStart, "&Schuifpuzzel"},
+    {MenuGameJigSaw, "&Legpuzzel"},
+    {MenuGameSize, "Aantal s&tukjes"},
+    {MenuGamePicture, "&Afbeelding wijzigen"},
+    {MenuGameQuit, "Spel st&oppen"},
+    {PuzzleName, "Puzzel"},
+    {PuzzleMoves, "Zetten: %1"},
+    {PuzzleTime, "Tijd: %1"},
+    {PuzzleSolved, "Opgelost!"},
+    {JigSawKeys, "Sleep een stukje op een ander. Toetsen: pijlen, spatie om op te pakken en neer "
+                 "te leggen, H toont de afbeelding."},
+    {MovingKeys, "Klik op een stukje naast het gat. Toetsen: pijlen, H toont de afbeelding."},
+    {PictureFilter, "Afbeeldingen|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "Deze afbeelding is niet geschikt voor een legpuzzel"},
 };
 static_assert(IsWhole(kRows));
 

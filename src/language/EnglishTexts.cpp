@@ -115,6 +115,22 @@ constexpr ProgramTextRow kRows[] = {
     {StartHiddenTip, "The calendar waits out of sight until a reminder is due or you start it."},
     {OtherYear, "This diary belongs to the year %1. It can be shown when its owner's program has "
                 "brought it to this year."},
+
+    {MenuGame, "&Game"},
+    {MenuGameStart, "&Start Game"},
+    {MenuGameJigSaw, "&Jig Saw Puzzle"},
+    {MenuGameSize, "&Puzzle Size"},
+    {MenuGamePicture, "&Change Picture"},
+    {MenuGameQuit, "&Quit Game"},
+    {PuzzleName, "Puzzle"},
+    {PuzzleMoves, "Moves: %1"},
+    {PuzzleTime, "Time: %1"},
+    {PuzzleSolved, "Solved!"},
+    {JigSawKeys, "Drag a piece onto another. Keys: arrows, Space to pick up and put down, H shows "
+                 "the picture."},
+    {MovingKeys, "Click a piece beside the gap. Keys: arrows, H shows the picture."},
+    {PictureFilter, "Pictures|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "Picture Not Suitable for Jig Saw Puzzle"},
 };
 static_assert(IsWhole(kRows));
 

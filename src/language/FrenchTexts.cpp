@@ -118,6 +118,22 @@ constexpr ProgramTextRow kRows[] = {
                      "jusqu’à ce que vous le lanciez."},
     {OtherYear, "Cet agenda appartient à l’année %1. Il pourra être affiché quand le programme de "
                 "son propriétaire l’aura amené à cette année."},
+
+    {MenuGame, "&Jeu"},
+    {MenuGameStart, "&Taquin"},
+    {MenuGameJigSaw, "&Puzzle"},
+    {MenuGameSize, "&Nombre de pièces"},
+    {MenuGamePicture, "&Changer d’image"},
+    {MenuGameQuit, "Abandonner le je&u"},
+    {PuzzleName, "Puzzle"},
+    {PuzzleMoves, "Coups : %1"},
+    {PuzzleTime, "Temps : %1"},
+    {PuzzleSolved, "Terminé !"},
+    {JigSawKeys, "Faites glisser une pièce sur une autre. Touches : flèches, Espace pour prendre "
+                 "et poser, H montre l’image."},
+    {MovingKeys, "Cliquez sur une pièce voisine du trou. Touches : flèches, H montre l’image."},
+    {PictureFilter, "Images|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "Cette image ne convient pas à un puzzle"},
 };
 static_assert(IsWhole(kRows));
 

@@ -121,6 +121,22 @@ constexpr ProgramTextRow kRows[] = {
      "Der Kalender wartet unsichtbar, bis eine Erinnerung fällig ist oder Sie ihn starten."},
     {OtherYear, "Dieser Terminplaner gehört zum Jahr %1. Er lässt sich anzeigen, sobald das "
                 "Programm seines Besitzers ihn in dieses Jahr gebracht hat."},
+
+    {MenuGame, "S&piel"},
+    {MenuGameStart, "&Schiebepuzzle"},
+    {MenuGameJigSaw, "&Puzzle"},
+    {MenuGameSize, "Anzahl der &Teile"},
+    {MenuGamePicture, "&Bild wechseln"},
+    {MenuGameQuit, "Spiel b&eenden"},
+    {PuzzleName, "Puzzle"},
+    {PuzzleMoves, "Züge: %1"},
+    {PuzzleTime, "Zeit: %1"},
+    {PuzzleSolved, "Geschafft!"},
+    {JigSawKeys, "Ziehen Sie ein Teil auf ein anderes. Tasten: Pfeile, Leertaste zum Aufnehmen und "
+                 "Ablegen, H zeigt das Bild."},
+    {MovingKeys, "Klicken Sie auf ein Teil neben der Lücke. Tasten: Pfeile, H zeigt das Bild."},
+    {PictureFilter, "Bilder|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "Dieses Bild eignet sich nicht für ein Puzzle"},
 };
 static_assert(IsWhole(kRows));
 

@@ -119,6 +119,22 @@ constexpr ProgramTextRow kRows[] = {
                      "υπενθύμισης ή να το ξεκινήσετε."},
     {OtherYear, "Αυτή η ατζέντα ανήκει στο έτος %1. Θα μπορεί να εμφανιστεί όταν το πρόγραμμα του "
                 "κατόχου της τη φέρει σε αυτό το έτος."},
+
+    {MenuGame, "Παι&χνίδι"},
+    {MenuGameStart, "&Συρόμενο παζλ"},
+    {MenuGameJigSaw, "&Παζλ"},
+    {MenuGameSize, "&Μέγεθος"},
+    {MenuGamePicture, "&Αλλαγή εικόνας"},
+    {MenuGameQuit, "&Τέλος παιχνιδιού"},
+    {PuzzleName, "Παζλ"},
+    {PuzzleMoves, "Κινήσεις: %1"},
+    {PuzzleTime, "Χρόνος: %1"},
+    {PuzzleSolved, "Λύθηκε!"},
+    {JigSawKeys, "Σύρετε ένα κομμάτι πάνω σε άλλο. Πλήκτρα: βέλη, διάστημα για πιάσιμο και άφημα, "
+                 "H δείχνει την εικόνα."},
+    {MovingKeys, "Κάντε κλικ σε κομμάτι δίπλα στο κενό. Πλήκτρα: βέλη, H δείχνει την εικόνα."},
+    {PictureFilter, "Εικόνες|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "Η εικόνα δεν είναι κατάλληλη για παζλ"},
 };
 static_assert(IsWhole(kRows));
 

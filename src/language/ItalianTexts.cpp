@@ -119,6 +119,22 @@ constexpr ProgramTextRow kRows[] = {
      "Il calendario attende senza mostrarsi finché non scade un avviso o non lo si avvia."},
     {OtherYear, "Questa agenda appartiene all’anno %1. Si potrà mostrare quando il programma del "
                 "suo proprietario l’avrà portata a quest’anno."},
+
+    {MenuGame, "&Gioco"},
+    {MenuGameStart, "Gioco del &quindici"},
+    {MenuGameJigSaw, "&Puzzle"},
+    {MenuGameSize, "&Dimensione"},
+    {MenuGamePicture, "&Cambia immagine"},
+    {MenuGameQuit, "&Esci dal gioco"},
+    {PuzzleName, "Puzzle"},
+    {PuzzleMoves, "Mosse: %1"},
+    {PuzzleTime, "Tempo: %1"},
+    {PuzzleSolved, "Risolto!"},
+    {JigSawKeys, "Trascini un pezzo su un altro. Tasti: frecce, Spazio per prendere e posare, H "
+                 "mostra l’immagine."},
+    {MovingKeys, "Faccia clic su un pezzo accanto al vuoto. Tasti: frecce, H mostra l’immagine."},
+    {PictureFilter, "Immagini|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "L’immagine non è adatta a un puzzle"},
 };
 static_assert(IsWhole(kRows));
 

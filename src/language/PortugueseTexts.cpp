@@ -116,6 +116,22 @@ constexpr ProgramTextRow kRows[] = {
                      "que você o inicie."},
     {OtherYear, "Esta agenda pertence ao ano %1. Poderá ser mostrada quando o programa do seu dono "
                 "a trouxer para este ano."},
+
+    {MenuGame, "&Jogo"},
+    {MenuGameStart, "Jogo &deslizante"},
+    {MenuGameJigSaw, "&Quebra-cabeça"},
+    {MenuGameSize, "&Tamanho"},
+    {MenuGamePicture, "Trocar &imagem"},
+    {MenuGameQuit, "&Sair do jogo"},
+    {PuzzleName, "Quebra-cabeça"},
+    {PuzzleMoves, "Jogadas: %1"},
+    {PuzzleTime, "Tempo: %1"},
+    {PuzzleSolved, "Resolvido!"},
+    {JigSawKeys,
+     "Arraste uma peça sobre outra. Teclas: setas, Espaço para pegar e soltar, H mostra a imagem."},
+    {MovingKeys, "Clique em uma peça ao lado do vazio. Teclas: setas, H mostra a imagem."},
+    {PictureFilter, "Imagens|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "A imagem não serve para um quebra-cabeça"},
 };
 static_assert(IsWhole(kRows));
 

@@ -118,6 +118,22 @@ enum class ProgramText {
     StartHiddenTip,
     OtherYear,
 
+    // the puzzle
+    MenuGame,
+    MenuGameStart,
+    MenuGameJigSaw,
+    MenuGameSize,
+    MenuGamePicture,
+    MenuGameQuit,
+    PuzzleName,
+    PuzzleMoves,
+    PuzzleTime,
+    PuzzleSolved,
+    JigSawKeys,
+    MovingKeys,
+    PictureFilter,
+    PuzzleUnsuitable,
+
     Count
 };
 inline constexpr std::size_t kProgramTexts = static_cast<std::size_t>(ProgramText::Count);

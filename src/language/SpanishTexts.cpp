@@ -117,6 +117,22 @@ constexpr ProgramTextRow kRows[] = {
      "El calendario espera sin mostrarse hasta que llegue la hora de un aviso o usted lo inicie."},
     {OtherYear, "Esta agenda pertenece al año %1. Se podrá mostrar cuando el programa de su dueño "
                 "la haya traído a este año."},
+
+    {MenuGame, "&Juego"},
+    {MenuGameStart, "Puzle &deslizante"},
+    {MenuGameJigSaw, "&Rompecabezas"},
+    {MenuGameSize, "&Tamaño"},
+    {MenuGamePicture, "&Cambiar imagen"},
+    {MenuGameQuit, "&Salir del juego"},
+    {PuzzleName, "Rompecabezas"},
+    {PuzzleMoves, "Jugadas: %1"},
+    {PuzzleTime, "Tiempo: %1"},
+    {PuzzleSolved, "¡Resuelto!"},
+    {JigSawKeys, "Arrastre una pieza sobre otra. Teclas: flechas, Espacio para coger y soltar, H "
+                 "muestra la imagen."},
+    {MovingKeys, "Haga clic en una pieza junto al hueco. Teclas: flechas, H muestra la imagen."},
+    {PictureFilter, "Imágenes|*.jpg;*.bmp;*.gif;*.wmf;*.emf;*.ico"},
+    {PuzzleUnsuitable, "La imagen no sirve para un rompecabezas"},
 };
 static_assert(IsWhole(kRows));
 

@@ -89,7 +89,8 @@ TEST(ShippedLanguagesTest, EnglishIsTheBuiltInOneButForLeadingBlanks) {
 
 TEST(ShippedLanguagesTest, ItemsOfAListAndAccessKeysOfAMenuDiffer) {
     const std::vector<ProgramText> menus[] = {
-        {MenuFile, MenuMonth, MenuWeekStart, MenuLanguage},
+        {MenuFile, MenuMonth, MenuWeekStart, MenuLanguage, MenuGame},
+        {MenuGameStart, MenuGameJigSaw, MenuGameSize, MenuGamePicture, MenuGameQuit},
         {MenuFullScreen, MenuRepeatMode, MenuSettings, MenuExit},
         {MenuManual, MenuAbout},
         {MenuNewEvent, MenuDelete, MenuDeleteAll, MenuUndo, MenuAddNetUser, MenuRemoveNetUser,

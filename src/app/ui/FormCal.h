@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/ui/DateLabel.h"
+#include "app/ui/GameMenu.h"
 #include "app/ui/PictureBox.h"
 #include "calendar/Selection.h"
 #include "diary/DiaryStore.h"
@@ -45,6 +46,7 @@ public:
         Dialogs& Boxes;
         Shell& Desktop;
         const Clock& Time;
+        PieceFiles& Pieces;
     };
 
     // What the window asks of the program around it.
@@ -147,6 +149,8 @@ private:
     QMenu* MNU_Date = nullptr;
     QMenu* MNU_Week = nullptr;
     QMenu* MNU_Language = nullptr;
+    QMenu* MNU_Game = nullptr;
+    GameMenu* game_ = nullptr;
     QMenu* MNU_Help = nullptr;
     QAction* MNU_Full = nullptr;
     QAction* MNU_Repeat = nullptr;

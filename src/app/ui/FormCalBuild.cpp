@@ -176,10 +176,15 @@ void FormCal::BuildMenus() {
     MNU_Date = menu("MNU_Date");
     MNU_Week = menu("MNU_Week");
     MNU_Language = menu("MNU_Language");
+    MNU_Game = menu("MNU_Game");
     MNU_Help = menu("MNU_Help");
     BuildFileMenu();
     BuildMonthMenu();
     BuildChoiceMenus();
+    game_ = new GameMenu(
+        {rooms_.Texts, rooms_.Settings, rooms_.Boxes, rooms_.Pieces}, MNU_Game, Image1, [this] {
+            return rooms_.Pictures.MonthPicture[static_cast<std::size_t>(rooms_.Dates.PageMonth)];
+        });
     AddAction(MNU_Help, QStringLiteral("MNU_Manual"), [this] {
         LabHelp_Click();
     })->setShortcut(QKeySequence::HelpContents);
@@ -285,6 +290,7 @@ void FormCal::LoadCaptions() {
         MNU_WeekSt[i]->setChecked(static_cast<int>(rooms_.Settings.Week) ==
                                   2 - static_cast<int>(i));
     }
+    game_->LoadCaptions();
     GiveAccessKeys();
     LoadTips();
     const LanguageChoices& choices = rooms_.Tongues.Choices();
@@ -298,7 +304,7 @@ void FormCal::LoadCaptions() {
 // others leave.
 void FormCal::GiveAccessKeys() {
     QString taken;
-    for (const QMenu* const menu : {MNU_File, MNU_Month, MNU_Week, MNU_Language}) {
+    for (const QMenu* const menu : {MNU_File, MNU_Month, MNU_Week, MNU_Language, MNU_Game}) {
         const QString title = menu->title();
         taken += title.mid(title.indexOf(u'&') + 1, 1).toLower();
     }

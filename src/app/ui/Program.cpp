@@ -24,6 +24,7 @@ constexpr int kTickMilliseconds = 500;
 Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& link)
     : dataFolder_(std::move(dataFolder)), mediaFile_(std::move(mediaFile)), link_(link),
       texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
+      pieces_(files_, PlainScratchWriter(files_), dataFolder_),
       languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
       shortCut_(files_, dataFolder_, AutostartFolder(), ExecutablePath()),
@@ -36,7 +37,7 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
-                media_, dialogs_, shell_, clock_},
+                media_, dialogs_, shell_, clock_, pieces_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
                 [this] { KeepMenuChoices(); }, [this](int index) { ChangeLanguage(index); },
                 [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
@@ -154,6 +155,7 @@ void Program::GetPaths() {
         (void)files_.MakeFolder(dataFolder_ + name);
     }
     files_.RemoveLeftovers(dataFolder_);
+    pieces_.RemoveLeftovers();
 }
 
 void Program::ModemCheck() {

@@ -134,6 +134,7 @@ private:
     Selection dates_;
     StringTable texts_;
     AppSettings settings_;
+    PieceFiles pieces_;
     AppSettings kept_; // as the user has last said "O.K.", with what the menus have changed since
     PictureTable pictures_;
     std::string runCheck_; // RunCheck: the single-instance item

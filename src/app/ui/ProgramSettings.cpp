@@ -21,7 +21,8 @@ LanEditor& Program::LanguageEditor() {
         lanEditor_ = std::make_unique<LanEditor>(
             &formCal_, LanEditor::Rooms{texts_, languages_, dialogs_},
             LanEditor::Hooks{[this](const StringTable& before) { TextsChanged(before); },
-                             [this] { LanguageSaved(); }, [this] { SettingsWindow().ShowSettings(); }});
+                             [this] { LanguageSaved(); },
+                             [this] { SettingsWindow().ShowSettings(); }});
     }
     return *lanEditor_;
 }

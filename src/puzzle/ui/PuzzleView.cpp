@@ -53,6 +53,7 @@ PuzzleView::PuzzleView(PieceFiles& files, const PuzzleRandom& random, QWidget* p
     setObjectName(QStringLiteral("Puzzle"));
     setScene(&table_);
     setFrameShape(QFrame::NoFrame);
+    setAutoFillBackground(true); // what it lies over is not to be seen beside the line of moves
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -37,6 +37,7 @@ struct MonthScene : DiaryScene {
     UnavailableSpeaker Speech;
     UnavailableMedia Media;
     RecordingShell Desktop;
+    PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     std::vector<int> Opened;
     int SettingsOpened = 0;
     int SettingsSaved = 0;
@@ -44,7 +45,7 @@ struct MonthScene : DiaryScene {
     int Countdown = 0;
     int Quits = 0;
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
-                    Desktop, Clock},
+                    Desktop, Clock, Pieces},
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
                     [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
                     [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; }, [] {},

@@ -67,6 +67,7 @@ struct Windows : DiaryScene {
     UnavailableSpeaker Speech;
     UnavailableMedia Media;
     NoShell Desktop;
+    PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     SetDetails Details;
     NoActions Actions;
     SharedDiaries Shared{{Files, Clock, OnDisc, Texts, Probe}};
@@ -145,7 +146,8 @@ class LanguageRenderTest : public testing::TestWithParam<int> {};
 TEST_P(LanguageRenderTest, TheMonth) {
     Windows all(GetParam());
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
-                   all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock},
+                   all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
+                   all.Pieces},
                   {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
