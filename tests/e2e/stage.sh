@@ -88,7 +88,7 @@ open_stage() {
     stage=$(mktemp -d "${TMPDIR:-/tmp}/kestrova-$scene.XXXXXX")
     trap close_stage EXIT
     trap 'exit 1' HUP INT TERM
-    unset DBUS_SESSION_BUS_ADDRESS XMODIFIERS "${!LC_@}" "${!QT_@}"
+    unset DBUS_SESSION_BUS_ADDRESS XDG_CONFIG_HOME XMODIFIERS "${!LC_@}" "${!QT_@}"
     export TZ=UTC LANG=C.UTF-8 NO_AT_BRIDGE=1
     start_virtual_display "$stage"
     HOME=$stage openbox --sm-disable >"$stage/openbox.log" 2>&1 &

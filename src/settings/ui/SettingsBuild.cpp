@@ -54,8 +54,32 @@ private:
     std::function<QColor()> colour_;
 };
 
+// A scroll bar that says when the keyboard is on it, which the desktop's own does not.
+class KeyBar : public QScrollBar {
+public:
+    using QScrollBar::QScrollBar;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QScrollBar::paintEvent(event);
+        if (hasFocus()) {
+            QPainter painter(this);
+            painter.setPen(QPen(look::Accent(palette()), 2));
+            painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        }
+    }
+    void focusInEvent(QFocusEvent* event) override {
+        QScrollBar::focusInEvent(event);
+        update();
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QScrollBar::focusOutEvent(event);
+        update();
+    }
+};
+
 QScrollBar* Bar(QWidget* parent, const char* name, int least, int greatest) {
-    auto* const bar = Named(new QScrollBar(Qt::Vertical, parent), name);
+    auto* const bar = Named(new KeyBar(Qt::Vertical, parent), name);
     bar->setRange(least, greatest);
     bar->setSingleStep(1);
     bar->setPageStep(16);
