@@ -8,12 +8,16 @@
 #include "text/Lines.h"
 #include "text/Numbers.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+#include <vector>
+
 namespace kestrova {
 
 namespace {
 
 constexpr std::chrono::milliseconds kLockWait{350};
-constexpr std::size_t kJournalLimit = std::size_t{1} << 30U;
 constexpr std::string_view kMoreLinesMark = "with more lines";
 
 std::string EntryPath(const FileStore& files, const std::string& folder, const std::string& name) {
@@ -30,18 +34,59 @@ std::string YearPath(const std::string& noteFolder) {
 }
 
 // The files of a folder that are notes, by the name of the note. Looked up one by one, many notes
-// would mean as many looks through the whole folder.
-std::map<std::string, std::string> NoteFiles(const FileStore& files,
-                                             const std::string& noteFolder) {
-    std::map<std::string, std::string> notes;
-    for (std::string& file : files.List(noteFolder)) {
-        auto name = NoteNameOf(file);
-        if (name && (file == *name || !notes.contains(*name))) {
-            notes[std::move(*name)] = std::move(file);
+// would mean as many looks through the whole folder. Where several files differ in case alone, the
+// first is the one that FindEntry finds.
+std::map<std::string, std::vector<std::string>> NoteFiles(const FileStore& files,
+                                                          const std::string& noteFolder) {
+    std::map<std::string, std::vector<std::string>> notes;
+    std::vector<std::string> all = files.List(noteFolder);
+    std::sort(all.begin(), all.end());
+    for (std::string& file : all) {
+        if (auto name = NoteNameOf(file)) {
+            std::vector<std::string>& variants = notes[*name];
+            variants.insert(file == *name ? variants.begin() : variants.end(), std::move(file));
         }
     }
     return notes;
 }
+
+Error TooLarge(const std::string& path) {
+    return {ErrorCode::TooLarge, std::generic_category().message(EFBIG) + "\n" + path};
+}
+
+// The texts of a journal in the making. Each is there once, however many notes are to have it.
+class JournalTexts {
+public:
+    explicit JournalTexts(std::vector<std::string>& texts) : texts_(texts) {}
+
+    std::size_t NumberOf(const std::shared_ptr<const std::string>& text) {
+        const auto [known, isNew] = given_.emplace(text.get(), texts_.size());
+        if (isNew) {
+            texts_.push_back(*text);
+        }
+        return known->second;
+    }
+
+    // Of what the note of this name holds now.
+    Result<std::size_t> NumberOf(const DiaryFiles& files, const std::string& folder,
+                                 const std::string& name) {
+        if (const auto known = read_.find(name); known != read_.end()) {
+            return known->second;
+        }
+        auto text = files.ReadNote(folder, name);
+        if (!text) {
+            return text.Failure().Code == ErrorCode::TooLarge ? TooLarge(text.Failure().Text)
+                                                              : text.Failure();
+        }
+        texts_.push_back(std::move(text.Value()));
+        return read_[name] = texts_.size() - 1;
+    }
+
+private:
+    std::vector<std::string>& texts_;
+    std::map<const std::string*, std::size_t> given_;
+    std::map<std::string, std::size_t> read_;
+};
 
 } // namespace
 
@@ -81,7 +126,7 @@ Result<std::unique_ptr<FileLock>> DiaryFiles::Open(const std::string& folder, Lo
     return lock;
 }
 
-Result<LoadedDiary> DiaryFiles::Read(const std::string& folder) {
+Result<LoadedDiary> DiaryFiles::Read(const std::string& folder) const {
     LoadedDiary loaded;
     loaded.Stamp = Stamp(folder);
     const auto bytes = files_.Read(DiaryPath(files_, folder), kDiaryFileLimit);
@@ -92,29 +137,42 @@ Result<LoadedDiary> DiaryFiles::Read(const std::string& folder) {
     if (!end) {
         return end.Failure();
     }
-    if (end.Value() == DiaryEnd::MoreLines) {
-        // A folder that cannot be written takes no save either, so nothing can be lost there.
-        (void)CopyAside(folder, kMoreLinesMark);
-    }
     return loaded;
+}
+
+// The lines may have come since the diary was read, hence the look at the file as it is now. A file
+// that cannot be read, or is no diary, is the caller's to keep.
+Status DiaryFiles::KeepMoreLines(const std::string& folder) {
+    const auto bytes = files_.Read(DiaryPath(files_, folder), kDiaryFileLimit);
+    DiaryTable table;
+    const auto end = bytes ? ReadDiary(bytes.Value(), table) : bytes.Failure();
+    const bool more = end && end.Value() == DiaryEnd::MoreLines;
+    return more ? CopyAside(folder, kMoreLinesMark) : Status(Done{});
 }
 
 // Turns the plan for the notes into the contents that their files are to have.
 Result<SaveJournal> DiaryFiles::Plan(const std::string& folder, const NotePlan& notes) const {
+    constexpr std::size_t kLineRoom = 64; // bytes that a line of a journal has at most
     SaveJournal journal;
+    JournalTexts texts(journal.Texts);
+    std::size_t size = 0;
     for (const auto& [name, fate] : notes.Changes()) {
+        const std::size_t textsBefore = journal.Texts.size();
+        std::optional<std::size_t>& number = journal.Notes[name];
         if (const auto* given = std::get_if<NoteText>(&fate)) {
-            journal.Notes[name] = given->Text;
+            number = texts.NumberOf(given->Text);
         } else if (const auto* from = std::get_if<NoteFrom>(&fate)) {
-            auto text = ReadNote(folder, from->Name);
-            if (!text) {
-                return text.Failure();
+            const auto read = texts.NumberOf(*this, folder, from->Name);
+            if (!read) {
+                return read.Failure();
             }
-            const bool worthAFile = !from->Copied || !text.Value().empty();
-            journal.Notes[name] =
-                worthAFile ? std::optional(std::move(text.Value())) : std::nullopt;
-        } else {
-            journal.Notes[name] = std::nullopt;
+            const bool worthAFile = !from->Copied || !journal.Texts[read.Value()].empty();
+            number = worthAFile ? std::optional(read.Value()) : std::nullopt;
+        }
+        size += 2 * kLineRoom;
+        size += journal.Texts.size() > textsBefore ? journal.Texts.back().size() : 0;
+        if (size > journalLimit_) {
+            return TooLarge(JournalPath(NoteFolder(files_, folder)));
         }
     }
     return journal;
@@ -122,15 +180,23 @@ Result<SaveJournal> DiaryFiles::Plan(const std::string& folder, const NotePlan& 
 
 Status DiaryFiles::CarryOut(const std::string& folder, const SaveJournal& journal) {
     const std::string noteFolder = NoteFolder(files_, folder);
-    const auto there = journal.Notes.empty() ? std::map<std::string, std::string>()
+    const auto there = journal.Notes.empty() ? std::map<std::string, std::vector<std::string>>()
                                              : NoteFiles(files_, noteFolder);
+    std::vector<FileChange> changes;
     for (const auto& [name, text] : journal.Notes) {
-        const auto file = there.find(name);
-        const std::string path = noteFolder + (file == there.end() ? name : file->second);
-        const Status status = text ? files_.Replace(path, *text) : files_.Remove(path);
-        if (!status) {
-            return status;
+        const auto variants = there.find(name);
+        if (text) {
+            const std::string& file = variants == there.end() ? name : variants->second.front();
+            changes.push_back({noteFolder + file, journal.Texts[*text]});
+        } else if (variants != there.end()) {
+            for (const std::string& file : variants->second) {
+                changes.push_back({noteFolder + file, std::nullopt});
+            }
         }
+    }
+    const Status done = files_.ReplaceMany(changes);
+    if (!done) {
+        return done;
     }
     if (journal.RolledTo) {
         std::string year;
@@ -147,6 +213,10 @@ Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, con
     auto journal = Plan(folder, notes);
     if (!journal) {
         return journal.Failure();
+    }
+    const Status kept = KeepMoreLines(folder);
+    if (!kept) {
+        return kept;
     }
     const bool needsJournal = rolledTo || !journal.Value().Notes.empty();
     if (needsJournal) {
@@ -174,7 +244,7 @@ Status DiaryFiles::Write(const std::string& folder, const DiaryTable& table, con
 
 Status DiaryFiles::CompleteSave(const std::string& folder) {
     const std::string journalPath = JournalPath(NoteFolder(files_, folder));
-    const auto bytes = files_.Read(journalPath, kJournalLimit);
+    const auto bytes = files_.Read(journalPath, journalLimit_);
     if (!bytes) {
         const bool none = bytes.Failure().Code == ErrorCode::NotFound;
         return none ? Status(Done{}) : Status(bytes.Failure());
@@ -204,7 +274,7 @@ std::optional<int> DiaryFiles::RolledTo(const std::string& folder) const {
 
 std::set<std::string> DiaryFiles::NoteNames(const std::string& folder) const {
     std::set<std::string> names;
-    for (const auto& [name, file] : NoteFiles(files_, NoteFolder(files_, folder))) {
+    for (const auto& [name, variants] : NoteFiles(files_, NoteFolder(files_, folder))) {
         names.insert(name);
     }
     return names;
@@ -214,8 +284,9 @@ std::set<std::string> DiaryFiles::NotesWithText(const std::string& folder,
                                                 const std::set<std::string>& names) const {
     std::set<std::string> withText;
     const std::string noteFolder = NoteFolder(files_, folder);
-    for (const auto& [name, file] : NoteFiles(files_, noteFolder)) {
-        const auto stamp = names.contains(name) ? files_.Stamp(noteFolder + file) : std::nullopt;
+    for (const auto& [name, variants] : NoteFiles(files_, noteFolder)) {
+        const auto stamp =
+            names.contains(name) ? files_.Stamp(noteFolder + variants.front()) : std::nullopt;
         if (stamp && stamp->Size > 0) {
             withText.insert(name);
         }
@@ -234,7 +305,28 @@ Status DiaryFiles::WriteNote(const std::string& folder, const std::string& name,
 }
 
 Status DiaryFiles::RemoveNote(const std::string& folder, const std::string& name) {
-    return files_.Remove(NotePath(folder, name));
+    const std::string noteFolder = NoteFolder(files_, folder);
+    const auto there = NoteFiles(files_, noteFolder);
+    std::vector<FileChange> changes;
+    if (const auto variants = there.find(name); variants != there.end()) {
+        for (const std::string& file : variants->second) {
+            changes.push_back({noteFolder + file, std::nullopt});
+        }
+    }
+    return files_.ReplaceMany(changes);
+}
+
+Status DiaryFiles::KeepNoteAside(const std::string& folder, const std::string& name) {
+    const auto note = ReadNote(folder, name);
+    if (!note) {
+        const bool none = note.Failure().Code == ErrorCode::NotFound;
+        return none ? Status(Done{}) : Status(note.Failure());
+    }
+    if (note.Value().empty()) {
+        return Done{};
+    }
+    return WriteNewAside(files_, clock_.Now(), NoteFolder(files_, folder) + "Notes.txt", "left",
+                         note.Value());
 }
 
 Status DiaryFiles::WriteAside(const std::string& folder, std::string_view mark,

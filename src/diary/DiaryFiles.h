@@ -33,7 +33,11 @@ struct LoadedDiary {
 // and hold what it returns until done.
 class DiaryFiles {
 public:
-    DiaryFiles(FileStore& files, const Clock& clock) : files_(files), clock_(clock) {}
+    // Larger than anything that people write, small enough to be held in memory.
+    static constexpr std::size_t kJournalLimit = std::size_t{1} << 30U; // bytes
+
+    DiaryFiles(FileStore& files, const Clock& clock, std::size_t journalLimit = kJournalLimit)
+        : files_(files), clock_(clock), journalLimit_(journalLimit) {}
 
     // Locks the folder and completes a save that a crash has cut short. Busy when someone else
     // holds it for longer than is waited, or it cannot be written (Exclusive). Failed (Exclusive)
@@ -41,13 +45,14 @@ public:
     Result<std::unique_ptr<FileLock>> Open(const std::string& folder, LockKind kind,
                                            LockPatience patience = LockPatience::Moment);
 
-    // NotFound, Busy, TooLarge, Damaged or Failed. Lines that no record uses are no damage, but the
-    // file is kept aside before the next save could drop them.
-    Result<LoadedDiary> Read(const std::string& folder);
+    // NotFound, Busy, TooLarge, Damaged or Failed. Lines that no record uses are no damage.
+    [[nodiscard]] Result<LoadedDiary> Read(const std::string& folder) const;
 
     // Writes the diary and carries out what has become of its notes; a crash at any moment leaves
-    // either none of it or all of it, once the folder is next opened. `rolledTo` is the base year
-    // after a roll-over.
+    // either none of it or all of it, once the folder is next opened. A file with lines that no
+    // record uses is kept aside, since this drops them. TooLarge, and nothing is written, when more
+    // notes change than a later start could take up again. `rolledTo` is the base year after a
+    // roll-over.
     Status Write(const std::string& folder, const DiaryTable& table, const NotePlan& notes,
                  std::optional<int> rolledTo = std::nullopt);
 
@@ -75,6 +80,10 @@ public:
     Status WriteNote(const std::string& folder, const std::string& name, std::string_view bytes);
     Status RemoveNote(const std::string& folder, const std::string& name);
 
+    // Keeps a note that is about to be lost, if it holds anything, as a file of its own beside the
+    // notes ("Notes left ....txt").
+    Status KeepNoteAside(const std::string& folder, const std::string& name);
+
     // Writes a table beside the diary file, as it would be kept aside.
     Status WriteAside(const std::string& folder, std::string_view mark, const DiaryTable& table);
 
@@ -94,11 +103,13 @@ private:
 
     [[nodiscard]] std::string NotePath(const std::string& folder, const std::string& name) const;
     Result<SaveJournal> Plan(const std::string& folder, const NotePlan& notes) const;
+    Status KeepMoreLines(const std::string& folder);
     Status CarryOut(const std::string& folder, const SaveJournal& journal);
     Status CompleteSave(const std::string& folder);
 
     FileStore& files_;
     const Clock& clock_;
+    std::size_t journalLimit_;
 };
 
 } // namespace kestrova

@@ -19,6 +19,19 @@ bool IsDamage(ErrorCode code) {
     return code == ErrorCode::Damaged || code == ErrorCode::TooLarge;
 }
 
+// Sets a flag for as long as a message is open. One may come over another.
+class Talk {
+public:
+    explicit Talk(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+    ~Talk() { flag_ = before_; }
+    Talk(const Talk&) = delete;
+    Talk& operator=(const Talk&) = delete;
+
+private:
+    bool& flag_;
+    bool before_;
+};
+
 } // namespace
 
 Result<std::unique_ptr<FileLock>> DiaryStore::Open(const std::string& folder, LockKind kind,
@@ -42,21 +55,47 @@ Status DiaryStore::TryRead(const std::string& folder, LockPatience patience) {
     }
     table_ = std::move(loaded.Value().Table);
     stamp_ = loaded.Value().Stamp;
+    suspect_.reset();
+    told_.reset();
+    spoilt_ = false;
     return Done{};
 }
 
+// The clock ticks on while the user reads.
+void DiaryStore::Show(const Message& message) {
+    const Talk talk(talks_);
+    dialogs_.Show(message);
+}
+
 void DiaryStore::ShowBusy() {
-    dialogs_.Show({texts_.Text(texts::kProgramTitle), TextOf(texts_, ProgramText::DiaryBusy),
-                   DialogIcon::Critical});
+    Show({texts_.Text(texts::kProgramTitle), TextOf(texts_, ProgramText::DiaryBusy),
+          DialogIcon::Critical});
 }
 
 void DiaryStore::ShowOutOfReach() {
-    dialogs_.Show({texts_.Text(texts::kMessengerTitle),
-                   TextOf(texts_, ProgramText::DiaryOutOfReach), DialogIcon::Critical});
+    Show({texts_.Text(texts::kMessengerTitle), TextOf(texts_, ProgramText::DiaryOutOfReach),
+          DialogIcon::Critical});
 }
 
-void DiaryStore::GetData(const std::string& folder) {
+bool DiaryStore::TryShow(const std::string& folder) {
+    if (talks_ || !TryRead(folder, LockPatience::None)) {
+        return false;
+    }
+    folder_ = folder;
+    return true;
+}
+
+void DiaryStore::GetData(const std::string& folder, std::optional<int> baseYear) {
     suspect_.reset();
+    if (baseYear && !probe_.IsOwn(folder) && probe_.Answers(folder)) {
+        const auto rolledTo = files_.RolledTo(folder);
+        if (rolledTo && rolledTo != baseYear) {
+            Show({texts_.Text(texts::kMessengerTitle),
+                  TextOf(texts_, ProgramText::OtherYear, std::to_string(*rolledTo)),
+                  DialogIcon::Critical});
+            return;
+        }
+    }
     const Status read = TryRead(folder, LockPatience::Moment);
     if (read) {
         folder_ = folder;
@@ -81,13 +120,14 @@ void DiaryStore::GetData(const std::string& folder) {
         ShowOutOfReach();
         return;
     }
+    told_ = files_.Stamp(folder);
     Reformat(folder);
 }
 
 void DiaryStore::Reformat(const std::string& folder) {
-    dialogs_.Show({texts_.Text(texts::kMessengerTitle),
-                   texts_.Text(texts::kDiaryCorrupt) + "\n" + texts_.Text(texts::kFilesReformatted),
-                   DialogIcon::Critical});
+    Show({texts_.Text(texts::kMessengerTitle),
+          texts_.Text(texts::kDiaryCorrupt) + "\n" + texts_.Text(texts::kFilesReformatted),
+          DialogIcon::Critical});
     (void)Persist(folder, SaveMessages::Show, [&] { return TryReformat(folder); });
 }
 
@@ -102,6 +142,7 @@ Status DiaryStore::TryReformat(const std::string& folder) {
         table_ = std::move(loaded.Value().Table);
         stamp_ = loaded.Value().Stamp;
         folder_ = folder;
+        spoilt_ = false;
         return Done{};
     }
     const ErrorCode code = loaded.Failure().Code;
@@ -124,14 +165,17 @@ bool DiaryStore::AsksToTryAgain(const std::string& folder, const Error& error) {
         ShowBusy();
         return false;
     }
-    if (!probe_.IsOwn(folder)) {
-        if (error.Code == ErrorCode::Full) {
-            dialogs_.Show({texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical});
-        } else {
-            ShowOutOfReach();
-        }
+    const bool shared = !probe_.IsOwn(folder);
+    // Too large are notes that this change would move or copy: trying again would not help.
+    if (error.Code == ErrorCode::TooLarge || (shared && error.Code == ErrorCode::Full)) {
+        Show({texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical});
         return false;
     }
+    if (shared) {
+        ShowOutOfReach();
+        return false;
+    }
+    const Talk talk(talks_);
     const bool again = dialogs_.Ask(
         {texts_.Text(texts::kMessengerTitle), error.Text, DialogIcon::Critical},
         {TextOf(texts_, ProgramText::Retry), TextOf(texts_, ProgramText::CloseProgram)});
@@ -156,10 +200,12 @@ ChangeResult DiaryStore::Persist(const std::string& folder, SaveMessages message
 }
 
 // The table to work on: memory where it is what the file holds, else the file. A file that has
-// gone, or is damaged and stays so, gives way to memory, the best there is then.
+// gone, or is damaged and stays so, gives way to memory, the best there is then. Not so for the
+// diary of another: memory holds marks of the clock's that are not to reach it.
 Result<DiaryTable> DiaryStore::Latest(const std::string& folder) {
     const auto now = files_.Stamp(folder);
-    if (folder == folder_ && now == stamp_) {
+    const bool remembered = folder == folder_ && probe_.IsOwn(folder);
+    if (remembered && now == stamp_) {
         return table_;
     }
     auto loaded = files_.Read(folder);
@@ -167,11 +213,14 @@ Result<DiaryTable> DiaryStore::Latest(const std::string& folder) {
         return std::move(loaded.Value().Table);
     }
     const Error& error = loaded.Failure();
-    const bool gone = error.Code == ErrorCode::NotFound;
-    if (folder != folder_ || (gone && !probe_.IsOwn(folder)) || (!gone && !IsDamage(error.Code))) {
+    const bool damaged = IsDamage(error.Code);
+    if (!damaged && !(remembered && error.Code == ErrorCode::NotFound)) {
         return error;
     }
-    if (IsDamage(error.Code) && suspect_ != now) {
+    if (!remembered) {
+        return Error{ErrorCode::Damaged, error.Text};
+    }
+    if (damaged && suspect_ != now) {
         suspect_ = now; // someone may be writing it piece by piece
         return Error{ErrorCode::Busy, error.Text};
     }
@@ -192,6 +241,8 @@ Status DiaryStore::Write(const std::string& folder, DiaryTable table, const Note
         stamp_ = files_.Stamp(folder);
         folder_ = folder;
         suspect_.reset();
+        told_.reset();
+        spoilt_ = false;
     }
     return written;
 }
@@ -257,16 +308,19 @@ ChangeResult DiaryStore::DataFormat(int baseYear) {
 }
 
 DiaryNews DiaryStore::Refresh() {
+    if (talks_) {
+        return DiaryNews::Same; // what there is to say is being said
+    }
     const auto now = probe_.Answers(folder_) ? files_.Stamp(folder_) : std::nullopt;
     if (!now) {
         return DiaryNews::FolderGone;
     }
-    if (now == stamp_) {
+    spoilt_ = false;
+    if (now == stamp_ || now == told_) {
         return DiaryNews::Same;
     }
     const Status read = TryRead(folder_, LockPatience::None);
     if (read) {
-        suspect_.reset();
         return DiaryNews::Reloaded;
     }
     // Someone may be writing the file piece by piece, and a lock is a matter of moments: only a
@@ -274,6 +328,10 @@ DiaryNews DiaryStore::Refresh() {
     if (!IsDamage(read.Failure().Code) || suspect_ != now) {
         suspect_ = now;
         return DiaryNews::Same;
+    }
+    if (IsShared()) {
+        spoilt_ = true;
+        return DiaryNews::FolderGone;
     }
     // What memory holds is about to give way to an empty diary, so it is kept, too.
     (void)files_.WriteAside(folder_, kMemoryMark, table_);

@@ -79,8 +79,13 @@ public:
     // Loads the diary of a folder and shows it from now on. A diary that is busy gives a message
     // and leaves the table as it is; one that is damaged or missing gives a message, and an empty
     // one is put in its place, the damaged file kept beside it. A shared one that is missing or out
-    // of reach gives a message, too, but the diary shown before stays.
-    void GetData(const std::string& folder);
+    // of reach gives a message, too, but the diary shown before stays; so does one that says it
+    // belongs to another base year than this, if one is given: its days would be the wrong ones.
+    void GetData(const std::string& folder, std::optional<int> baseYear = std::nullopt);
+
+    // The same in silence and without waiting, if the diary can be loaded as it is. Whether it is
+    // shown now. Not while a message is open.
+    [[nodiscard]] bool TryShow(const std::string& folder);
 
     // Applies an edit to the diary shown and saves it.
     ChangeResult Change(const Edit& edit, SaveMessages messages = SaveMessages::Show);
@@ -90,8 +95,12 @@ public:
     ChangeResult DataFormat(int baseYear);
 
     // Looks whether someone else has changed the file, and loads it if so. Waits for nobody: what
-    // cannot be read now is looked at again the next time.
+    // cannot be read now is looked at again the next time. One's own diary that is damaged is put
+    // right with a message; another's is the other's, and counts as gone.
     DiaryNews Refresh();
+
+    // Whether the diary shown is another's and was found damaged when it was last looked at.
+    [[nodiscard]] bool IsSpoilt() const { return spoilt_; }
 
     // Brings the diary of a folder forward from one base year to a later one, a copy of the old
     // file kept beside it, and shows it. One that has been brought there already, by another
@@ -108,8 +117,12 @@ public:
         return files_.RolledTo(folder);
     }
 
-    // The text of the note at a place of the diary shown; nothing when it has none.
-    [[nodiscard]] std::optional<std::string> Note(const SlotPlace& place) const;
+    // The text of the note at a place of the diary shown. NotFound when it has none.
+    [[nodiscard]] Result<std::string> Note(const SlotPlace& place) const;
+
+    // Keeps the note at a place of the diary shown aside, if it holds anything. For an edit that is
+    // about to put another one there.
+    Status KeepNoteAside(const SlotPlace& place);
 
     // The slots of a day of the diary shown whose events have a note with something in it.
     [[nodiscard]] std::set<int> SlotsWithNotes(const DayPlace& day) const;
@@ -139,6 +152,7 @@ private:
     [[nodiscard]] bool AsksToTryAgain(const std::string& folder, const Error& error);
     ChangeResult Persist(const std::string& folder, SaveMessages messages,
                          const std::function<Status()>& attempt);
+    void Show(const Message& message);
     void ShowBusy();
     void ShowOutOfReach();
     void Reformat(const std::string& folder);
@@ -154,6 +168,9 @@ private:
     std::string folder_;
     std::optional<FileStamp> stamp_;
     std::optional<FileStamp> suspect_; // of a changed file that could not be read at first sight
+    std::optional<FileStamp> told_;    // of a damaged file about which the user has been told
+    bool spoilt_ = false;
+    bool talks_ = false; // a message is open
 };
 
 } // namespace kestrova

@@ -6,9 +6,12 @@
 
 namespace kestrova {
 
-std::optional<std::string> DiaryStore::Note(const SlotPlace& place) const {
-    auto text = files_.ReadNote(folder_, GetFile(place));
-    return text ? std::optional(std::move(text.Value())) : std::nullopt;
+Result<std::string> DiaryStore::Note(const SlotPlace& place) const {
+    return files_.ReadNote(folder_, GetFile(place));
+}
+
+Status DiaryStore::KeepNoteAside(const SlotPlace& place) {
+    return files_.KeepNoteAside(folder_, GetFile(place));
 }
 
 std::set<int> DiaryStore::SlotsWithNotes(const DayPlace& day) const {

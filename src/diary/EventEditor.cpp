@@ -58,6 +58,7 @@ std::optional<DayPlace> EventEditor::Day(const CalendarDate& date) const {
 AcceptResult EventEditor::BeginNew() {
     date_ = rooms_.Dates.Page();
     original_.reset();
+    slot_ = kScratchSlot;
     kind_.reset();
     extra_ = {};
     const auto day = Day(date_);
@@ -79,7 +80,8 @@ AcceptResult EventEditor::BeginEdit(int slot) {
     original_ = rooms_.Store.Table().At({slot, *day});
     kind_ = ReminderKindOf(rooms_.Texts, original_->Rmd);
     extra_ = original_->Extra;
-    note_.Begin(date_, original_);
+    slot_ = slot;
+    note_.Begin(date_, original_, slot);
     return AcceptResult::Accepted;
 }
 
@@ -159,11 +161,31 @@ bool EventEditor::CollectDetails(ReminderKind kind) {
     return true;
 }
 
-void EventEditor::Remove(EventList& events, const SlotPlace& place) {
+// A note that cannot be handled now ends the change: nothing is saved without it.
+EditVerdict EventEditor::Unless(const Status& status, EditVerdict verdict) {
+    if (status) {
+        return verdict;
+    }
+    noteTrouble_ = status.Failure();
+    return EditVerdict::Leave;
+}
+
+Status EventEditor::Remove(EventList& events, const SlotPlace& place) {
+    std::optional<std::string> note;
+    if (events.Notes().Has(place)) {
+        auto text = rooms_.Store.Note(place);
+        if (!text && text.Failure().Code != ErrorCode::NotFound) {
+            return text.Failure(); // it could not be brought back
+        }
+        if (text) {
+            note = std::move(text.Value());
+        }
+    }
     removing_.push_back({{rooms_.Dates.BaseYear + place.Year, place.Month, place.Day},
                          events.Table().At(place),
-                         events.Notes().Has(place) ? rooms_.Store.Note(place) : std::nullopt});
+                         std::move(note)});
     events.DeleteMsg(place);
+    return Done{};
 }
 
 EditVerdict EventEditor::Insert(EventList& events, const DayPlace& day, const DiaryEvent& event) {
@@ -173,12 +195,16 @@ EditVerdict EventEditor::Insert(EventList& events, const DayPlace& day, const Di
         return EditVerdict::Leave;
     }
     const SlotPlace scratch(kScratchSlot, day);
-    events.Table().At(scratch) = event;
-    if (const auto& bytes = note_.Bytes()) {
-        events.Notes().Put(scratch, *bytes);
-    } else {
-        events.Notes().CreateEmpty(scratch);
+    if (!note_.Bytes()) {
+        // What another program or a crash has left there was never seen here: it is kept, but does
+        // not become the note of this event.
+        const Status kept = rooms_.Store.KeepNoteAside(scratch);
+        if (!kept) {
+            return Unless(kept, EditVerdict::Leave);
+        }
     }
+    events.Table().At(scratch) = event;
+    events.Notes().Put(scratch, note_.Bytes().value_or(""));
     if (const auto slot = events.SortMsg(day)) {
         RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*slot, day});
     }
@@ -187,34 +213,54 @@ EditVerdict EventEditor::Insert(EventList& events, const DayPlace& day, const Di
 
 EditVerdict EventEditor::Overwrite(EventList& events, const DayPlace& day,
                                    const DiaryEvent& event) {
-    const auto slot = events.Find(day, *original_);
+    const auto slot = events.Find(day, *original_, slot_);
     if (!slot) {
         // Someone else has deleted or moved it meanwhile. What the user typed is not thrown away.
         return event.IsFree() ? EditVerdict::Leave : Insert(events, day, event);
     }
     const SlotPlace place(*slot, day);
     if (event.IsFree()) {
-        Remove(events, place);
+        const Status removed = Remove(events, place);
         events.ReSortMsg(day);
-        return EditVerdict::Save;
+        return Unless(removed, EditVerdict::Save);
     }
     events.Table().At(place) = event;
     if (note_.IsUnsaved()) {
         events.Notes().Put(place, note_.Bytes().value_or(""));
     }
-    events.ReSortMsg(day);
-    if (const auto moved = events.Find(day, event)) {
-        RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {*moved, day});
-    }
+    const int moved = events.ReSortMsg(day, *slot);
+    RepeatMsg(events, rooms_.Texts, rooms_.Dates.BaseYear, {moved, day});
     return EditVerdict::Save;
 }
 
-AcceptResult EventEditor::Finish(ChangeResult result) {
+AcceptResult EventEditor::Change(const DiaryStore::Edit& edit) {
+    const std::string folder = rooms_.Store.Folder();
+    const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
+        removing_.clear();
+        noteTrouble_.reset();
+        dayFull_ = false;
+        return edit(events);
+    });
     if (result == ChangeResult::NotSaved) {
+        return AcceptResult::Refused;
+    }
+    if (noteTrouble_) {
+        if (noteTrouble_->Code == ErrorCode::Busy) {
+            rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                               TextOf(rooms_.Texts, ProgramText::DiaryBusy), DialogIcon::Critical});
+        } else {
+            ShowRefusal({texts::kFileHandlingError});
+        }
+        return AcceptResult::Refused;
+    }
+    if (dayFull_) {
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                           TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
         return AcceptResult::Refused;
     }
     if (!removing_.empty()) {
         removed_ = std::move(removing_);
+        removedFrom_ = folder;
     }
     return AcceptResult::Accepted;
 }
@@ -248,17 +294,9 @@ AcceptResult EventEditor::Accept(EventDraft& draft) {
                            draft.Rmd,
                            extra_,
                            static_cast<std::int16_t>(draft.Hide ? 1 : 0)};
-    const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
-        removing_.clear();
-        dayFull_ = false;
+    return Change([&](EventList& events) {
         return original_ ? Overwrite(events, *day, event) : Insert(events, *day, event);
     });
-    if (dayFull_) {
-        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                           TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
-        return AcceptResult::Refused;
-    }
-    return Finish(result);
 }
 
 AcceptResult EventEditor::DeleteAllAlike() {
@@ -266,29 +304,28 @@ AcceptResult EventEditor::DeleteAllAlike() {
         return AcceptResult::Accepted;
     }
     const std::string msg = original_->Msg;
-    return Finish(rooms_.Store.Change([&](EventList& events) {
-        removing_.clear();
+    return Change([&](EventList& events) {
+        Status removed = Done{};
         EachStoredSlot([&](const SlotPlace& place) {
-            if (place.Slot > 0 && events.Table().At(place).Msg == msg) {
-                Remove(events, place);
+            if (removed && place.Slot > 0 && events.Table().At(place).Msg == msg) {
+                removed = Remove(events, place);
             }
         });
-        for (const Removed& removed : removing_) {
-            if (const auto day = Day(removed.Date)) {
+        for (const Removed& one : removing_) {
+            if (const auto day = Day(one.Date)) {
                 events.ReSortMsg(*day);
             }
         }
-        return removing_.empty() ? EditVerdict::Leave : EditVerdict::Save;
-    }));
+        return Unless(removed, removing_.empty() ? EditVerdict::Leave : EditVerdict::Save);
+    });
 }
 
 AcceptResult EventEditor::Undo() {
-    if (removed_.empty()) {
+    if (!CanUndo()) {
         return AcceptResult::Refused;
     }
     std::vector<Removed> left;
-    const ChangeResult result = rooms_.Store.Change([&](EventList& events) {
-        removing_.clear();
+    const AcceptResult result = Change([&](EventList& events) {
         left.clear();
         for (const Removed& removed : removed_) {
             const auto day = Day(removed.Date);
@@ -297,22 +334,29 @@ AcceptResult EventEditor::Undo() {
                 continue;
             }
             const SlotPlace scratch(kScratchSlot, *day);
+            const Status kept = rooms_.Store.KeepNoteAside(scratch);
+            if (!kept) {
+                return Unless(kept, EditVerdict::Leave);
+            }
             events.Table().At(scratch) = removed.Event;
+            // A note that somebody has left there is not this event's.
             if (removed.Note) {
                 events.Notes().Put(scratch, *removed.Note);
+            } else {
+                events.Notes().Remove(scratch);
             }
             events.SortMsg(*day);
         }
         return EditVerdict::Save;
     });
-    if (result == ChangeResult::Saved) {
+    if (result == AcceptResult::Accepted) {
         removed_ = std::move(left);
         if (!removed_.empty()) {
             rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
                                TextOf(rooms_.Texts, ProgramText::DayFull), DialogIcon::Critical});
         }
     }
-    return Finish(result);
+    return result;
 }
 
 } // namespace kestrova

@@ -77,9 +77,12 @@ public:
     // Deletes every event of the diary whose message is that of the event being edited.
     AcceptResult DeleteAllAlike();
 
-    // Brings back what the last deletion has taken.
+    // Brings back what the last deletion has taken, as long as the diary is shown from which it
+    // has taken it.
     AcceptResult Undo();
-    [[nodiscard]] bool CanUndo() const { return !removed_.empty(); }
+    [[nodiscard]] bool CanUndo() const {
+        return !removed_.empty() && removedFrom_ == rooms_.Store.Folder();
+    }
 
 private:
     struct Removed {
@@ -94,19 +97,23 @@ private:
     [[nodiscard]] bool CollectMediaFile();
     void ShowRefusal(std::initializer_list<TextId> lines);
 
+    EditVerdict Unless(const Status& status, EditVerdict verdict);
+    [[nodiscard]] AcceptResult Change(const DiaryStore::Edit& edit);
     EditVerdict Insert(EventList& events, const DayPlace& day, const DiaryEvent& event);
     EditVerdict Overwrite(EventList& events, const DayPlace& day, const DiaryEvent& event);
-    void Remove(EventList& events, const SlotPlace& place);
-    AcceptResult Finish(ChangeResult result);
+    Status Remove(EventList& events, const SlotPlace& place);
 
     Rooms rooms_;
     CalendarDate date_;
     std::optional<DiaryEvent> original_; // nothing for a new event
+    int slot_ = kScratchSlot;            // where it stood; of two equal events it is this one
     std::optional<ReminderKind> kind_;   // how it reminds; its caption may change its language
     EventNote note_;
-    ReminderExtra extra_;           // RmdExtra
-    std::vector<Removed> removed_;  // by the last deletion
-    std::vector<Removed> removing_; // by the deletion under way
+    ReminderExtra extra_;              // RmdExtra
+    std::vector<Removed> removed_;     // by the last deletion
+    std::string removedFrom_;          // the folder of their diary
+    std::vector<Removed> removing_;    // by the deletion under way
+    std::optional<Error> noteTrouble_; // why the change under way has been given up
     bool dayFull_ = false;
 };
 

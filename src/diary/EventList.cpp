@@ -12,6 +12,9 @@ void EventList::Move(const SlotPlace& from, const SlotPlace& to) {
     table_.At(to) = std::move(table_.At(from));
     table_.At(from) = DiaryEvent{};
     notes_.Move(from, to);
+    if (followed_ == from) {
+        followed_ = to;
+    }
 }
 
 std::optional<int> EventList::SortMsg(const DayPlace& day) {
@@ -61,13 +64,15 @@ void EventList::Pack(const DayPlace& day) {
     }
 }
 
-void EventList::ReSortMsg(const DayPlace& day) {
+int EventList::ReSortMsg(const DayPlace& day, int follow) {
+    followed_ = SlotPlace(follow, day);
     Pack(day);
     // Each round takes at least one pair out of disorder, so a day of ten needs at most 45.
     while (TakeOutOfOrder(day)) {
         Pack(day);
         SortMsg(day);
     }
+    return followed_.Slot;
 }
 
 std::optional<int> EventList::UpdateMsg(const SlotPlace& source, const DayPlace& target) {
@@ -83,22 +88,23 @@ std::optional<int> EventList::UpdateMsg(const SlotPlace& source, const DayPlace&
     return slot;
 }
 
-std::optional<int> FindEvent(const DiaryTable& table, const DayPlace& day,
-                             const DiaryEvent& event) {
+std::optional<int> FindEvent(const DiaryTable& table, const DayPlace& day, const DiaryEvent& event,
+                             int hint) {
+    std::optional<int> same;
     std::optional<int> similar;
     for (int slot = 1; slot <= kEventsPerDay; ++slot) {
         const DiaryEvent& candidate = table.At({slot, day});
         if (candidate.IsFree()) {
             continue;
         }
-        if (candidate == event) {
-            return slot;
+        if ((!same || slot == hint) && candidate == event) {
+            same = slot;
         }
-        if (!similar && candidate.SameAppointment(event)) {
+        if ((!similar || slot == hint) && candidate.SameAppointment(event)) {
             similar = slot;
         }
     }
-    return similar;
+    return same ? same : similar;
 }
 
 } // namespace kestrova

@@ -9,9 +9,10 @@
 namespace kestrova {
 
 // The slot 1-10 of a day that holds this event; one that differs only in how it repeats or reminds
-// will do when none is the same in all.
+// will do when none is the same in all. Of several that are as good, the one in `hint`, the slot
+// where the event was last seen; else the first.
 [[nodiscard]] std::optional<int> FindEvent(const DiaryTable& table, const DayPlace& day,
-                                           const DiaryEvent& event);
+                                           const DiaryEvent& event, int hint = 0);
 
 // Keeps the events of a day sorted by time and packed into slots 1, 2, 3, ..., each with its note.
 class EventList {
@@ -29,8 +30,9 @@ public:
     // waiting, when the day is full.
     std::optional<int> SortMsg(const DayPlace& day);
 
-    // Puts a day back into order and packs it, whatever has happened to it.
-    void ReSortMsg(const DayPlace& day);
+    // Puts a day back into order and packs it, whatever has happened to it. Returns the slot to
+    // which the event of the slot `follow` has gone.
+    int ReSortMsg(const DayPlace& day, int follow = 0);
 
     // Copies an event with its note's move to another date and sorts it in there. The source slot
     // keeps its event; clear it when a move is meant.
@@ -40,8 +42,9 @@ public:
         return !table_.At({kEventsPerDay, day}).IsFree();
     }
 
-    [[nodiscard]] std::optional<int> Find(const DayPlace& day, const DiaryEvent& event) const {
-        return FindEvent(table_, day, event);
+    [[nodiscard]] std::optional<int> Find(const DayPlace& day, const DiaryEvent& event,
+                                          int hint = 0) const {
+        return FindEvent(table_, day, event, hint);
     }
 
 private:
@@ -51,6 +54,7 @@ private:
 
     DiaryTable& table_;
     NotePlan& notes_;
+    SlotPlace followed_; // of the event that a ReSortMsg follows
 };
 
 } // namespace kestrova

@@ -36,8 +36,9 @@ std::string NoteBytes(std::string_view text) {
     return text.empty() ? bytes : bytes.append(kLineEnd);
 }
 
-void EventNote::Begin(const CalendarDate& date, std::optional<DiaryEvent> event) {
+void EventNote::Begin(const CalendarDate& date, std::optional<DiaryEvent> event, int slot) {
     date_ = date;
+    slot_ = slot;
     event_ = std::move(event);
     bytes_.reset();
     refused_.reset();
@@ -50,7 +51,7 @@ std::optional<SlotPlace> EventNote::PlaceIn(const DiaryTable& table) const {
         return std::nullopt;
     }
     const DayPlace day{date_.Day, date_.Month, year};
-    const auto slot = event_ ? FindEvent(table, day, *event_) : kScratchSlot;
+    const auto slot = event_ ? FindEvent(table, day, *event_, slot_) : kScratchSlot;
     return slot ? std::optional(SlotPlace(*slot, day)) : std::nullopt;
 }
 

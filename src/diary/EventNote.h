@@ -39,8 +39,9 @@ public:
 
     explicit EventNote(const Rooms& rooms) : rooms_(rooms) {}
 
-    // Editing of an event of this date has begun, of a new one when none is given.
-    void Begin(const CalendarDate& date, std::optional<DiaryEvent> event);
+    // Editing of an event of this date has begun, which stands in this slot; of a new one when no
+    // event is given.
+    void Begin(const CalendarDate& date, std::optional<DiaryEvent> event, int slot = kScratchSlot);
 
     [[nodiscard]] bool IsOfNewEvent() const { return !event_; }
 
@@ -82,6 +83,7 @@ private:
     Rooms rooms_;
     CalendarDate date_;
     std::optional<DiaryEvent> event_;
+    int slot_ = kScratchSlot; // where it stood; of two equal events it is this one
     std::optional<std::string> bytes_;
     std::optional<std::string> refused_; // of this text the user knows that it cannot be saved
     bool unsaved_ = false;

@@ -9,7 +9,7 @@ namespace {
 
 bool IsEmptyText(const NoteFate& fate) {
     const auto* text = std::get_if<NoteText>(&fate);
-    return text != nullptr && text->Text.empty();
+    return text != nullptr && text->Text->empty();
 }
 
 } // namespace
@@ -56,12 +56,6 @@ void NotePlan::Copy(const SlotPlace& from, const SlotPlace& to) {
 void NotePlan::Remove(const SlotPlace& at) {
     if (!NoNotes()) {
         planned_[GetFile(at)] = NoteGone{};
-    }
-}
-
-void NotePlan::CreateEmpty(const SlotPlace& at) {
-    if (!Has(at)) {
-        planned_[GetFile(at)] = NoteText{};
     }
 }
 

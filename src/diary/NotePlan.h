@@ -4,8 +4,10 @@
 #include "diary/DiaryTable.h"
 
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <variant>
 
 namespace kestrova {
@@ -20,8 +22,14 @@ struct NoteFrom {
     bool operator==(const NoteFrom&) const = default;
 };
 struct NoteText {
-    std::string Text; // this content
-    bool operator==(const NoteText&) const = default;
+    NoteText() = default;
+    explicit NoteText(std::string text)
+        : Text(std::make_shared<const std::string>(std::move(text))) {}
+
+    // This content, which all copies of the note share: a repeated event has hundreds.
+    std::shared_ptr<const std::string> Text = std::make_shared<const std::string>();
+
+    bool operator==(const NoteText& other) const { return *Text == *other.Text; }
 };
 using NoteFate = std::variant<NoteGone, NoteFrom, NoteText>;
 
@@ -41,9 +49,6 @@ public:
     void Copy(const SlotPlace& from, const SlotPlace& to);
 
     void Remove(const SlotPlace& at);
-
-    // An empty note, unless one is there.
-    void CreateEmpty(const SlotPlace& at);
 
     // A note with this text.
     void Put(const SlotPlace& at, std::string text);

@@ -11,7 +11,7 @@ namespace kestrova {
 
 namespace {
 
-constexpr std::string_view kFirstLine = "Kestrova save 1";
+constexpr std::string_view kFirstLine = "Kestrova save 2";
 
 // Reads the lines and runs of bytes of a journal.
 class JournalReader {
@@ -64,15 +64,23 @@ template<typename T, typename Field> bool Assign(std::string_view text, Field& f
     return value.has_value();
 }
 
-bool ReadNote(JournalReader& reader, std::string_view line, SaveJournal& journal) {
+bool ReadNote(std::string_view line, SaveJournal& journal) {
     const std::string name(TakeWord(line));
-    const auto length = Number<std::uint64_t>(line);
-    const auto text = length ? reader.Bytes(*length) : std::nullopt;
-    if (!text || !IsNoteName(name)) {
+    const auto text = Number<std::size_t>(line);
+    if (!text || *text >= journal.Texts.size() || !IsNoteName(name)) {
         return false;
     }
-    journal.Notes[name] = std::string(*text);
+    journal.Notes[name] = *text;
     return true;
+}
+
+bool ReadText(JournalReader& reader, std::string_view line, SaveJournal& journal) {
+    const auto length = Number<std::uint64_t>(line);
+    const auto text = length ? reader.Bytes(*length) : std::nullopt;
+    if (text) {
+        journal.Texts.emplace_back(*text);
+    }
+    return text.has_value();
 }
 
 bool ReadLine(JournalReader& reader, std::string_view line, SaveJournal& journal) {
@@ -87,7 +95,10 @@ bool ReadLine(JournalReader& reader, std::string_view line, SaveJournal& journal
         return Assign<int>(line, journal.RolledTo);
     }
     if (word == "note") {
-        return ReadNote(reader, line, journal);
+        return ReadNote(line, journal);
+    }
+    if (word == "text") {
+        return ReadText(reader, line, journal);
     }
     const std::string name(line);
     if (word != "gone" || !IsNoteName(name)) {
@@ -110,9 +121,13 @@ std::string WriteJournal(const SaveJournal& journal) {
     if (journal.RolledTo) {
         bytes += "year " + std::to_string(*journal.RolledTo) + "\n";
     }
+    for (const std::string& text : journal.Texts) {
+        bytes.append("text ").append(std::to_string(text.size())).append("\n");
+        bytes.append(text).append("\n");
+    }
     for (const auto& [name, text] : journal.Notes) {
         if (text) {
-            bytes += "note " + name + " " + std::to_string(text->size()) + "\n" + *text + "\n";
+            bytes += "note " + name + " " + std::to_string(*text) + "\n";
         } else {
             bytes += "gone " + name + "\n";
         }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kestrova {
 
@@ -16,14 +17,16 @@ namespace kestrova {
 // file has that digest, the rest is done (again, if need be: doing it twice is harmless); else the
 // save never took place, and the paper is thrown away.
 //
-// The file "Saving.tmp": the line "Kestrova save 1"; the lines "digest N", "size N" and, for a
-// roll-over, "year N"; for each note file that changes, "gone NAME" or "note NAME LENGTH" followed
-// by that many bytes and a line end; the line "end". Numbers are decimal. Lines end in LF.
+// The file "Saving.tmp": the line "Kestrova save 2"; the lines "digest N", "size N" and, for a
+// roll-over, "year N"; the texts that notes are to have, each once, "text LENGTH" followed by that
+// many bytes and a line end; for each note file that changes, "gone NAME" or "note NAME N", where N
+// counts the texts from 0; the line "end". Numbers are decimal. Lines end in LF.
 struct SaveJournal {
     std::uint64_t DiaryDigest = 0;
-    std::uint64_t DiarySize = 0; // bytes
-    std::optional<int> RolledTo; // the base year after this save, when it is a roll-over
-    std::map<std::string, std::optional<std::string>> Notes; // nothing: the file is to go
+    std::uint64_t DiarySize = 0;    // bytes
+    std::optional<int> RolledTo;    // the base year after this save, when it is a roll-over
+    std::vector<std::string> Texts; // many notes of a repeated event share one
+    std::map<std::string, std::optional<std::size_t>> Notes; // its text; nothing: it is to go
 
     bool operator==(const SaveJournal&) const = default;
 

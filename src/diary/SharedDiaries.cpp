@@ -48,6 +48,14 @@ std::optional<std::vector<NetUser>> SharedDiaries::Read() {
     return std::vector<NetUser>{std::move(own)};
 }
 
+// For looking only: what is written is based on what the file holds.
+std::vector<NetUser> SharedDiaries::Known() {
+    if (auto users = Read()) {
+        known_ = std::move(*users);
+    }
+    return known_;
+}
+
 RegisterResult SharedDiaries::Write(const std::vector<NetUser>& users) {
     const std::string bytes = WriteNetUsers(users);
     // What could not be read again would be taken for damage.
@@ -59,16 +67,13 @@ RegisterResult SharedDiaries::Write(const std::vector<NetUser>& users) {
 
 std::vector<std::string> SharedDiaries::DoNetUsers() {
     std::vector<std::string> names{std::string(kMyDiary)};
-    const auto users = Read();
-    if (!users) {
-        return names;
-    }
+    const std::vector<NetUser> users = Known();
     std::vector<std::string> folders;
-    for (const NetUser& user : *users) {
+    for (const NetUser& user : users) {
         folders.push_back(user.Folder);
     }
     const std::set<std::string> answering = rooms_.Probe.Answering(folders);
-    for (const NetUser& user : *users) {
+    for (const NetUser& user : users) {
         const bool listed = std::find(names.begin(), names.end(), user.Name) != names.end();
         if (!listed && answering.contains(user.Folder) && rooms_.Diaries.Stamp(user.Folder)) {
             names.push_back(user.Name);
@@ -124,15 +129,10 @@ std::optional<std::string> SharedDiaries::FolderOf(const std::string& name) {
     if (name == kMyDiary) {
         return rooms_.Probe.OwnFolder();
     }
-    const auto users = Read();
-    if (users) {
-        const auto user = std::find_if(users->begin(), users->end(),
-                                       [&](const NetUser& one) { return one.Name == name; });
-        if (user != users->end()) {
-            return user->Folder;
-        }
-    }
-    return std::nullopt;
+    const std::vector<NetUser> users = Known();
+    const auto user = std::find_if(users.begin(), users.end(),
+                                   [&](const NetUser& one) { return one.Name == name; });
+    return user == users.end() ? std::nullopt : std::optional(user->Folder);
 }
 
 } // namespace kestrova

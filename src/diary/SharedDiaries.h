@@ -37,7 +37,8 @@ public:
 
     // The names of the diaries to offer: "My Diary" first, then every user whose diary is there and
     // whose folder answers. A register that is missing or damaged is written anew with the own
-    // diary alone, the damaged file kept beside it; one that cannot be read offers only that.
+    // diary alone, the damaged file kept beside it. As long as it cannot be read, which may be a
+    // matter of moments, it is taken for what it was when it last could.
     [[nodiscard]] std::vector<std::string> DoNetUsers();
 
     // Writes the register anew with only the own diary.
@@ -64,9 +65,11 @@ private:
     [[nodiscard]] std::string Path() const { return rooms_.Probe.OwnFolder() + "NetUsers.txt"; }
     [[nodiscard]] bool IsTaken(const std::vector<NetUser>& users, const std::string& name) const;
     std::optional<std::vector<NetUser>> Read();
+    [[nodiscard]] std::vector<NetUser> Known();
     RegisterResult Write(const std::vector<NetUser>& users);
 
     Rooms rooms_;
+    std::vector<NetUser> known_; // as last read
 };
 
 } // namespace kestrova

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -45,6 +46,12 @@ enum class LockKind {
     Exclusive // while saving: keeps everyone out
 };
 
+// What is to become of one file of many.
+struct FileChange {
+    std::string Path;
+    std::optional<std::string_view> Bytes; // nothing: the file is to go
+};
+
 // The discs. Paths are native, in UTF-8; folders end in the separator. No operation
 // waits for anyone, except Lock.
 class FileStore {
@@ -60,6 +67,12 @@ public:
     // this returns. On any failure the old file stands as it was. Busy, Full, NotFound (the folder)
     // or Failed.
     virtual Status Replace(const std::string& path, std::string_view bytes) = 0;
+
+    // Replaces and removes many files of one folder in much less time than one by one. They are
+    // all on the disc when this returns, but not before: a crash meanwhile, or a failure, may leave
+    // any of them done or not, and one that a power cut hits even empty. For a caller who can do it
+    // all again.
+    virtual Status ReplaceMany(std::span<const FileChange> changes) = 0;
 
     // Copies a file to a path where nothing stands yet. Failed when something does.
     virtual Status CopyToNew(const std::string& from, const std::string& to) = 0;

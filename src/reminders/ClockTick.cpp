@@ -155,7 +155,6 @@ void ClockTick::RefreshToday(const WallTime& now) {
 // Only the user's own diary is written by the clock: a friend's is the friend's to keep.
 void ClockTick::SaveUsedUp() {
     if (rooms_.Store.Folder() != rooms_.DataFolder) {
-        rooms_.Review.Forget();
         return;
     }
     const ChangeResult result = rooms_.Review.Save(SaveMessages::Keep);

@@ -51,8 +51,14 @@ DayPlace ReminderReview::Today() const {
     return {rooms_.Dates.TodayDay, rooms_.Dates.TodayMonth, 0};
 }
 
+CalendarDate ReminderReview::TodaysDate() const {
+    return {rooms_.Dates.BaseYear, rooms_.Dates.TodayMonth, rooms_.Dates.TodayDay};
+}
+
 std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
     lines_.clear();
+    // Yesterday's reminders do not come again, whatever the file says.
+    std::erase_if(usedUp_, [this](const UsedUp& used) { return used.Date < TodaysDate(); });
     // The diary may have been loaded anew before all marks could be written.
     ApplyMarks(rooms_.Store.Table());
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
@@ -63,6 +69,7 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
         events.push_back(rooms_.Store.Table().At({slot, Today()}));
     }
     const int minute = now.Hour * 60 + now.Minute;
+    const std::string folder = rooms_.Store.Folder();
     for (const DiaryEvent& event : events) {
         if (event.IsFree() || event.Key() > minute ||
             !FindExactly(rooms_.Store.Table(), Today(), event)) {
@@ -73,27 +80,37 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
             std::find(shownBefore.begin(), shownBefore.end(), event) != shownBefore.end();
         const bool fresh = kind == PassKind::Clearing && !wasShown;
         if (Deliver(event, fresh ? PassKind::Ordinary : kind) == Delivery::UsedUp) {
-            MarkUsedUp(event);
+            MarkUsedUp(folder, event);
         }
     }
     return lines_;
 }
 
-void ReminderReview::MarkUsedUp(const DiaryEvent& event) {
+void ReminderReview::MarkUsedUp(const std::string& folder, const DiaryEvent& event) {
     const std::string& none = ReminderCaption(rooms_.Texts, ReminderKind::None);
-    const auto slot = FindExactly(rooms_.Store.Table(), Today(), event);
-    if (!slot || event.Rmd == none) {
+    if (event.Rmd == none) {
         return;
     }
-    rooms_.Store.Table().At({*slot, Today()}).Rmd = none;
-    const Selection& dates = rooms_.Dates;
-    usedUp_.push_back({{dates.BaseYear, dates.TodayMonth, dates.TodayDay}, event});
+    // While it was delivered, another diary may have been chosen.
+    if (rooms_.Store.Folder() == folder) {
+        const auto slot = FindExactly(rooms_.Store.Table(), Today(), event);
+        if (!slot) {
+            return;
+        }
+        rooms_.Store.Table().At({*slot, Today()}).Rmd = none;
+    }
+    usedUp_.push_back({folder, TodaysDate(), event});
+}
+
+bool ReminderReview::HasChanges() const {
+    return std::any_of(usedUp_.begin(), usedUp_.end(),
+                       [this](const UsedUp& used) { return used.Folder == rooms_.Store.Folder(); });
 }
 
 void ReminderReview::ApplyMarks(DiaryTable& table) const {
     for (const UsedUp& used : usedUp_) {
         const int year = used.Date.Year - rooms_.Dates.BaseYear;
-        if (year < 0 || year >= kDiaryYears) {
+        if (used.Folder != rooms_.Store.Folder() || year < 0 || year >= kDiaryYears) {
             continue;
         }
         const DayPlace day{used.Date.Day, used.Date.Month, year};
@@ -112,7 +129,8 @@ ChangeResult ReminderReview::Save(SaveMessages messages) {
         },
         messages);
     if (result == ChangeResult::Saved) {
-        usedUp_.clear();
+        std::erase_if(usedUp_,
+                      [this](const UsedUp& used) { return used.Folder == rooms_.Store.Folder(); });
     }
     return result;
 }

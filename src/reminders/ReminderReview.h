@@ -56,32 +56,31 @@ public:
     // event again by what it holds. Returns the lines for the reminder window, in order.
     std::vector<std::string> Review(const WallTime& now, PassKind kind);
 
-    // Whether a review has marked events that the diary's file does not have marked.
-    [[nodiscard]] bool HasChanges() const { return !usedUp_.empty(); }
+    // Whether a review has marked events of the diary shown that its file does not have marked.
+    [[nodiscard]] bool HasChanges() const;
 
-    // Writes what has been used up to the diary's file, and re-sorts today. What cannot be written
-    // now is written with a later call.
+    // Writes what has been used up to the file of the diary shown, and re-sorts today. What cannot
+    // be written now, or belongs to another diary, is written with a later call.
     ChangeResult Save(SaveMessages messages);
-
-    // Forgets what has not been written: the marks belonged to a diary that is no longer shown.
-    void Forget() { usedUp_.clear(); }
 
 private:
     enum class Delivery { UsedUp, Pending };
 
     struct UsedUp {
+        std::string Folder; // of its diary: another may be shown meanwhile
         CalendarDate Date;
         DiaryEvent Event; // as it was before
     };
 
     [[nodiscard]] DayPlace Today() const;
+    [[nodiscard]] CalendarDate TodaysDate() const;
     Delivery Deliver(const DiaryEvent& event, PassKind kind);
     Delivery Screen(const DiaryEvent& event, PassKind kind);
     Delivery Speak(const DiaryEvent& event, PassKind kind);
     bool Announce(const DiaryEvent& event);
     Delivery Call(const DiaryEvent& event, PassKind kind);
     bool CallNumbers(const DiaryEvent& event);
-    void MarkUsedUp(const DiaryEvent& event);
+    void MarkUsedUp(const std::string& folder, const DiaryEvent& event);
     void ApplyMarks(DiaryTable& table) const;
 
     Rooms rooms_;
@@ -89,7 +88,7 @@ private:
     int phoneRepeatCount_ = 0; // PhoneRepeatCount
     std::vector<std::string> lines_;
     std::vector<DiaryEvent> shown_; // what the reminder window shows
-    std::vector<UsedUp> usedUp_;    // what the file does not have yet
+    std::vector<UsedUp> usedUp_;    // what the files do not have yet
 };
 
 } // namespace kestrova

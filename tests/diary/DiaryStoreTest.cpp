@@ -2,7 +2,9 @@
 #include "diary/DiaryStore.h"
 
 #include "diary/DiaryScene.h"
+#include "diary/Repeats.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace kestrova {
@@ -157,12 +159,64 @@ TEST(DiaryStoreTest, AFileThatIsBeingWrittenIsNotTakenForDamaged) {
     EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same);
     EXPECT_TRUE(scene.Boxes.Shown.empty());
     EXPECT_EQ(Messages(scene.Store.Table(), kDay), "kept");
+    scene.Boxes.WhileOpen = [&] {
+        for (int look = 0; look < 3; ++look) {
+            EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same) << "no box over the box";
+        }
+        EXPECT_FALSE(scene.Store.TryShow(kFolder));
+    };
     EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded) << "it grows no more: it is damaged";
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
     EXPECT_TRUE(scene.FindPathWith("damaged"));
     const auto memory = scene.FindPathWith("before damage");
     ASSERT_TRUE(memory);
     EXPECT_EQ(scene.Files.Content(*memory), whole) << "what memory held is kept as well";
+}
+
+TEST(DiaryStoreTest, DamageThatCannotBePutRightIsToldOnce) {
+    DiaryScene scene;
+    scene.Insert(kDay, MakeEvent(9, 0, "kept"));
+    const std::string whole = *scene.Files.Content(kDataPath);
+    scene.Files.Put(kDataPath, "no diary");
+    scene.Files.FailWrites(Error{ErrorCode::Busy, "Permission denied"});
+    for (int look = 0; look < 10; ++look) {
+        (void)scene.Store.Refresh();
+    }
+    EXPECT_EQ(scene.Boxes.Shown.size(), 2U) << "that it is damaged, and that it is busy";
+    EXPECT_EQ(Messages(scene.Store.Table(), kDay), "kept");
+    scene.Files.Put(kDataPath, whole);
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Reloaded) << "it is looked at all the same";
+}
+
+TEST(DiaryStoreTest, TheNoteOfARepeatedEventIsWrittenDownOnce) {
+    DiaryScene scene;
+    DiaryFiles files(scene.Files, scene.Clock, 300'000);
+    DiaryStore store(files, scene.Boxes, scene.Texts, scene.Probe, [&] { ++scene.Stops; });
+    store.GetData(kFolder);
+    const auto addDaily = [&](const char* msg, std::size_t notes) {
+        return store.Change([&](EventList& events) {
+            for (std::size_t i = 0; i < notes; ++i) {
+                const SlotPlace scratch(kScratchSlot, {1 + static_cast<int>(i), 0, 0});
+                events.Table().At(scratch) = MakeEvent(9, 0, msg, "Daily");
+                events.Notes().Put(scratch, std::string(100'000, static_cast<char>('a' + i)));
+                const auto slot = events.SortMsg(scratch.InDay());
+                RepeatMsg(events, scene.Texts, 2026, {*slot, scratch.InDay()});
+            }
+            return EditVerdict::Save;
+        });
+    };
+    EXPECT_EQ(addDaily("fits", 1), ChangeResult::Saved);
+    EXPECT_EQ(scene.Files.Content(scene.NotePath({1, 31, 11, 1})), std::string(100'000, 'a'));
+    EXPECT_FALSE(scene.Files.Content(kJournalPath));
+
+    // What a later start could not read is not written.
+    const int writes = scene.Files.Writes();
+    EXPECT_EQ(addDaily("does not", 3), ChangeResult::NotSaved);
+    EXPECT_EQ(scene.Files.Writes(), writes);
+    ASSERT_EQ(scene.Boxes.Shown.size(), 1U);
+    EXPECT_THAT(scene.Boxes.Shown[0].Text, testing::StartsWith("File too large\n"));
+    EXPECT_TRUE(scene.Boxes.Asked.empty());
+    EXPECT_EQ(Messages(scene.OnFile(), {1, 0, 0}), "fits");
 }
 
 TEST(DiaryStoreTest, ADiaryThatArrivesDuringTheMessageIsNotReplaced) {
@@ -225,6 +279,8 @@ TEST(DiaryStoreTest, LinesThatNoRecordUsesAreKeptAside) {
     scene.Files.Put(kDataPath, longer);
     scene.Store.GetData(kFolder);
     EXPECT_TRUE(scene.Boxes.Shown.empty());
+    EXPECT_FALSE(scene.FindPathWith("with more lines")) << "looking at it leaves nothing behind";
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(9, 0, "x")), ChangeResult::Saved);
     const auto aside = scene.FindPathWith("with more lines");
     ASSERT_TRUE(aside);
     EXPECT_EQ(scene.Files.Content(*aside), longer);
@@ -343,16 +399,20 @@ TEST(SaveJournalTest, ComesBackAndRefusesWhatIsNone) {
     journal.DiaryDigest = 18446744073709551615U;
     journal.DiarySize = 12;
     journal.RolledTo = -2026;
-    journal.Notes["BBAA.txt"] = std::string("end\nNUL \0 and\r\nall", 19);
+    journal.Texts = {std::string("end\nNUL \0 and\r\nall", 19), ""};
+    journal.Notes["BBAA.txt"] = 0;
     journal.Notes["b2aa.txt"] = std::nullopt;
-    journal.Notes["CBAA.txt"] = "";
+    journal.Notes["CBAA.txt"] = 1;
+    journal.Notes["DBAA.txt"] = 0;
     const std::string bytes = WriteJournal(journal);
     EXPECT_EQ(ReadJournal(bytes), journal);
     for (std::size_t length = 0; length < bytes.size(); ++length) {
         EXPECT_FALSE(ReadJournal(bytes.substr(0, length))) << length;
     }
-    EXPECT_FALSE(ReadJournal("Kestrova save 1\ngone ../../passwd\nend\n"));
-    EXPECT_FALSE(ReadJournal("Kestrova save 1\nnote BBAA.txt 99999999999\nx\nend\n"));
+    EXPECT_TRUE(ReadJournal("Kestrova save 2\ntext 1\nx\nnote BBAA.txt 0\nend\n"));
+    EXPECT_FALSE(ReadJournal("Kestrova save 2\ngone ../../passwd\nend\n"));
+    EXPECT_FALSE(ReadJournal("Kestrova save 2\ntext 99999999999\nx\nend\n"));
+    EXPECT_FALSE(ReadJournal("Kestrova save 2\ntext 1\nx\nnote BBAA.txt 1\nend\n"));
 }
 
 } // namespace

@@ -82,6 +82,45 @@ TEST(EventEditorTest, AllAlikeAreDeletedTogetherAndComeBackTogether) {
     EXPECT_TRUE(page.OnFile() == before);
 }
 
+TEST(EventEditorTest, UndoBringsBackIntoTheDiaryThatItWasTakenFrom) {
+    EditorScene page;
+    page.Add("08", "mine");
+    page.Change(1, "08", "");
+    page.Files.Put(kBobsPath, WriteDiary(DiaryTable()));
+    page.Store.GetData(kBobsFolder);
+    EXPECT_FALSE(page.Editor.CanUndo());
+    EXPECT_EQ(page.Editor.Undo(), AcceptResult::Refused);
+    EXPECT_TRUE(page.OnFile(kBobsPath) == DiaryTable());
+    page.Store.GetData(kFolder);
+    // A note that somebody has left there is not this event's.
+    (void)page.Files.Remove(page.NotePath({1, kDay}));
+    page.Files.Put(page.NotePath({kScratchSlot, kDay}), "theirs");
+    EXPECT_EQ(page.Editor.Undo(), AcceptResult::Accepted);
+    EXPECT_EQ(page.Day(), "mine");
+    EXPECT_EQ(page.Files.Content(page.NotePath({1, kDay})).value_or(""), "");
+    EXPECT_EQ(page.Files.Content(page.FindPathWith("Notes left").value_or("")), "theirs");
+}
+
+TEST(EventEditorTest, AnEventWhoseNoteCannotBeReadIsNotDeleted) {
+    for (const bool all : {false, true}) {
+        SCOPED_TRACE(all);
+        EditorScene page;
+        page.Add("08", "a");
+        page.Files.Put(page.NotePath({1, kDay}), "note of a");
+        page.Files.FailReads(Error{ErrorCode::Failed, "Input/output error"},
+                             page.NotePath({1, kDay}));
+        EXPECT_EQ(page.Editor.BeginEdit(1), AcceptResult::Accepted);
+        EventDraft draft;
+        EXPECT_EQ(all ? page.Editor.DeleteAllAlike() : page.Editor.Accept(draft),
+                  AcceptResult::Refused);
+        EXPECT_EQ(page.Boxes.Shown.size(), 1U);
+        page.Files.FailReads({});
+        EXPECT_EQ(page.Day(), "a");
+        EXPECT_EQ(page.Files.Content(page.NotePath({1, kDay})), "note of a");
+        EXPECT_FALSE(page.Editor.CanUndo());
+    }
+}
+
 TEST(EventEditorTest, RefusedRepeatsWriteNothing) {
     const struct {
         int Month, Day;

@@ -163,7 +163,7 @@ TEST(NotePlanTest, AChainOfMovesEndsAsOneChangeAFile) {
     NotePlan notes({GetFile(one), GetFile(two)});
     notes.Move(two, three);
     notes.Move(one, two);
-    notes.CreateEmpty(one);
+    notes.Put(one, "");
     const std::map<std::string, NoteFate> expected = {
         {GetFile(one), NoteText{}},
         {GetFile(two), NoteFrom{GetFile(one)}},

@@ -80,7 +80,7 @@ TEST(EventNoteTest, TheNoteOfANewEventEndsUpWithIt) {
     EXPECT_FALSE(scene.NoteAt(kScratchSlot));
 }
 
-TEST(EventNoteTest, ANoteThatACrashHasLeftIsOfferedOrGoesWithTheEvent) {
+TEST(EventNoteTest, ANoteThatACrashHasLeftIsOfferedOrKept) {
     for (const bool opened : {true, false}) {
         SCOPED_TRACE(opened);
         NoteScene scene;
@@ -92,7 +92,34 @@ TEST(EventNoteTest, ANoteThatACrashHasLeftIsOfferedOrGoesWithTheEvent) {
             EXPECT_TRUE(scene.Editor.Note().HasText());
         }
         EXPECT_EQ(scene.Accept("10", "new"), AcceptResult::Accepted);
-        EXPECT_EQ(scene.NoteAt(1), "left\nbehind") << "not a byte is changed";
+        EXPECT_EQ(scene.NoteAt(1), opened ? "left\nbehind" : "") << "not a byte is changed";
+        EXPECT_EQ(scene.Files.Content(scene.FindPathWith("Notes left 2026").value_or("")),
+                  opened ? std::nullopt : std::optional<std::string>("left\nbehind"));
+        EXPECT_FALSE(scene.NoteAt(kScratchSlot));
+    }
+}
+
+TEST(EventNoteTest, OfTwoEqualEventsTheOneThatWasChosenIsEdited) {
+    const struct {
+        const char* Hour;
+        const char* Msg;
+        const char* Notes[2]; // of slots 1 and 2 afterwards
+    } rows[] = {{"08", "twin", {"second", "first"}},
+                {"10", "twin", {"first", "second"}},
+                {"09", "", {"first", ""}}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        NoteScene scene;
+        scene.Add("09", "twin");
+        scene.Add("09", "twin");
+        scene.Files.Put(scene.NotePath({1, kDay}), "first");
+        scene.Files.Put(scene.NotePath({2, kDay}), "second");
+        ASSERT_EQ(scene.Editor.BeginEdit(2), AcceptResult::Accepted);
+        ASSERT_TRUE(scene.Open());
+        EXPECT_EQ(scene.Shown, "second");
+        EXPECT_EQ(scene.Accept(row.Hour, row.Msg), AcceptResult::Accepted);
+        EXPECT_EQ(scene.NoteAt(1), row.Notes[0]);
+        EXPECT_EQ(scene.NoteAt(2).value_or(""), row.Notes[1]);
     }
 }
 

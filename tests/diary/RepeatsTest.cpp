@@ -129,7 +129,7 @@ TEST(RepeatsTest, NotesAreCopiedToEveryOccurrence) {
     EXPECT_EQ(repeated.Notes.Fate({1, 6, 5, 1}), NoteFate(NoteText{"bring cake"}));
 
     Repeated empty(2023);
-    empty.Notes.CreateEmpty({1, 6, 5, 0});
+    empty.Notes.Put({1, 6, 5, 0}, "");
     empty.Write({2023, 5, 6}, "Annually");
     EXPECT_FALSE(empty.Notes.Has({1, 6, 5, 1})) << "an empty note is not worth a second file";
 }

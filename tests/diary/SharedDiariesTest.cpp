@@ -91,15 +91,19 @@ TEST(SharedDiariesTest, ARegisterThatCannotBeReadOrWrittenIsNotReplaced) {
     RegisterScene scene;
     ASSERT_EQ(scene.Shared.Add(kBobsPath, "Bob"), RegisterResult::Done);
     const auto bytes = scene.Files.Content(kRegister);
+    EXPECT_THAT(scene.Shared.DoNetUsers(), ElementsAre("My Diary", "Bob"));
     scene.Files.FailReads(Error{ErrorCode::Busy, "Permission denied"});
-    EXPECT_THAT(scene.Shared.DoNetUsers(), ElementsAre("My Diary"));
+    EXPECT_THAT(scene.Shared.DoNetUsers(), ElementsAre("My Diary", "Bob")) << "as it was";
+    EXPECT_EQ(scene.Shared.FolderOf("Bob"), kBobsFolder);
+    SharedDiaries fresh({scene.Files, scene.Clock, scene.OnDisc, scene.Texts, scene.Probe});
+    EXPECT_THAT(fresh.DoNetUsers(), ElementsAre("My Diary"));
     EXPECT_EQ(scene.Shared.Remove("Bob"), RegisterResult::NotSaved);
     scene.Files.FailReads({});
     scene.Files.FailWrites(Error{ErrorCode::Full, "No space left on device"});
     EXPECT_EQ(scene.Shared.Add(kBobsPath, "Robert"), RegisterResult::NotSaved);
     EXPECT_EQ(scene.Files.Content(kRegister), bytes);
     scene.Files.Put(kRegister, "damaged, and there is no room to keep it aside");
-    EXPECT_THAT(scene.Shared.DoNetUsers(), ElementsAre("My Diary"));
+    EXPECT_THAT(scene.Shared.DoNetUsers(), ElementsAre("My Diary", "Bob"));
     EXPECT_EQ(scene.Files.Content(kRegister), "damaged, and there is no room to keep it aside");
 }
 

@@ -157,15 +157,65 @@ TEST(SharedStoreTest, FilesAreFoundWhateverTheirCase) {
     const char* const path = "/net/bob/DIARYDAT/DATA.DAT";
     scene.Files.Put(path, WriteDiary(DiaryTable()));
     scene.WriteFromOutside(kDay, {MakeEvent(9, 0, "first")}, path);
-    scene.Files.Put("/net/bob/DIARYDAT/boea.TXT", "note of first"); // slot 1
+    scene.Files.Put("/net/bob/DIARYDAT/bOEA.txt", "note of first"); // slot 1
+    scene.Files.Put("/net/bob/DIARYDAT/boea.TXT", "an older one of the same name");
     scene.Store.GetData(kBobsFolder);
     EXPECT_THAT(scene.Store.SlotsWithNotes(kDay), testing::ElementsAre(1));
     EXPECT_EQ(scene.Insert(kDay, MakeEvent(8, 0, "earlier")), ChangeResult::Saved);
     EXPECT_EQ(Messages(scene.OnFile(path), kDay), "earlier first");
     EXPECT_THAT(scene.Store.SlotsWithNotes(kDay), testing::ElementsAre(2));
-    EXPECT_EQ(scene.Store.Note({2, kDay}), "note of first");
-    EXPECT_FALSE(scene.Files.Content("/net/bob/DIARYDAT/boea.TXT")) << "the note has moved";
+    EXPECT_EQ(scene.Store.Note({2, kDay}).Value(), "note of first");
+    for (const char* const name : {"bOEA.txt", "boea.TXT"}) {
+        EXPECT_FALSE(scene.Files.Content(std::string("/net/bob/DIARYDAT/") + name)) << name;
+    }
     EXPECT_FALSE(scene.FindPathWith("/net/bob/DiaryDat"));
+}
+
+TEST(SharedStoreTest, TheMarksOfTheClockDoNotReachAnothersFile) {
+    SharedScene scene;
+    scene.Store.Table().At({1, kDay}).Rmd = "None";
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "for bob")), ChangeResult::Saved);
+    EXPECT_EQ(Messages(scene.OnFile(kBobsPath), kDay), "bob's for bob");
+    EXPECT_EQ(scene.OnFile(kBobsPath).At({1, kDay}).Rmd, "Screen");
+}
+
+TEST(SharedStoreTest, ASharedDiaryThatGetsDamagedIsLeftToItsOwner) {
+    SharedScene scene;
+    scene.Files.Put(kBobsPath, "no diary");
+    const auto paths = scene.Files.Paths();
+    EXPECT_EQ(scene.Store.Refresh(), DiaryNews::Same) << "someone may be writing it just now";
+    for (int look = 0; look < 3; ++look) {
+        EXPECT_EQ(scene.Store.Refresh(), DiaryNews::FolderGone);
+        EXPECT_TRUE(scene.Store.IsSpoilt());
+    }
+    EXPECT_TRUE(scene.Boxes.Shown.empty());
+    EXPECT_EQ(scene.Insert(kDay, MakeEvent(10, 0, "x")), ChangeResult::NotSaved);
+    EXPECT_EQ(scene.LastMessage(), scene.OutOfReach);
+    EXPECT_EQ(scene.Files.Content(kBobsPath), "no diary");
+    EXPECT_EQ(scene.Files.Paths(), paths);
+    EXPECT_TRUE(scene.Store.TryShow(kFolder));
+    EXPECT_FALSE(scene.Store.IsSpoilt());
+    EXPECT_EQ(scene.Shown(), "mine");
+}
+
+TEST(SharedStoreTest, ADiaryOfAnotherYearIsNotShown) {
+    const struct {
+        const char* Year; // nullptr: it does not say
+        bool Shown;
+    } rows[] = {{nullptr, true}, {"2026\r\n", true}, {"2027\r\n", false}, {"2025\r\n", false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        SharedScene scene;
+        scene.Store.GetData(kFolder);
+        if (row.Year != nullptr) {
+            scene.Files.Put("/net/bob/DiaryDat/Year.dat", row.Year);
+        }
+        scene.Store.GetData(kBobsFolder, 2026);
+        EXPECT_EQ(scene.Shown(), row.Shown ? "bob's" : "mine");
+        EXPECT_EQ(scene.LastMessage(), row.Shown ? ""
+                                                 : TextOf(scene.Texts, ProgramText::OtherYear,
+                                                          std::string(row.Year).substr(0, 4)));
+    }
 }
 
 } // namespace

@@ -45,7 +45,7 @@ std::optional<Error> MemoryFileStore::RefuseWrite() {
 }
 
 Result<std::string> MemoryFileStore::Read(const std::string& path, std::size_t limit) const {
-    if (readError_) {
+    if (readError_ && (unreadable_.empty() || unreadable_ == path)) {
         return *readError_;
     }
     const auto file = files_.find(path);
@@ -63,6 +63,18 @@ Status MemoryFileStore::Replace(const std::string& path, std::string_view bytes)
         return *error;
     }
     Put(path, std::string(bytes));
+    return Done{};
+}
+
+// Each file is a write of its own: a crash may come between any two.
+Status MemoryFileStore::ReplaceMany(std::span<const FileChange> changes) {
+    for (const FileChange& change : changes) {
+        const Status done =
+            change.Bytes ? Replace(change.Path, *change.Bytes) : Remove(change.Path);
+        if (!done) {
+            return done;
+        }
+    }
     return Done{};
 }
 

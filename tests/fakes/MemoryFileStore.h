@@ -22,7 +22,12 @@ public:
 
     // Every write fails with this from now on, until `{}`.
     void FailWrites(std::optional<Error> error) { writeError_ = std::move(error); }
-    void FailReads(std::optional<Error> error) { readError_ = std::move(error); }
+
+    // So does every read; with a path, every read of that file.
+    void FailReads(std::optional<Error> error, std::string path = {}) {
+        readError_ = std::move(error);
+        unreadable_ = std::move(path);
+    }
 
     // Someone else holds the lock of this file.
     void HoldLock(const std::string& path) { held_.insert(path); }
@@ -47,6 +52,7 @@ public:
 
     Result<std::string> Read(const std::string& path, std::size_t limit) const override;
     Status Replace(const std::string& path, std::string_view bytes) override;
+    Status ReplaceMany(std::span<const FileChange> changes) override;
     Status CopyToNew(const std::string& from, const std::string& to) override;
     Status MoveToNew(const std::string& from, const std::string& to) override;
     Status Remove(const std::string& path) override;
@@ -72,6 +78,7 @@ private:
     std::set<std::string> held_;
     std::optional<Error> writeError_;
     std::optional<Error> readError_;
+    std::string unreadable_; // empty: every file
     std::optional<int> writesLeft_;
     std::int64_t time_ = 0;
     int writes_ = 0;

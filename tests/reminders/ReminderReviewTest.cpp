@@ -218,5 +218,31 @@ TEST(ReminderReviewTest, AFriendsDiaryIsNotWrittenByTheClock) {
     EXPECT_EQ(scene.ReminderOnFile(), "Music");
 }
 
+TEST(ReminderReviewTest, AnUnsavedMarkOutlivesALookAtAFriendsDiaryButNotTheDay) {
+    ClockScene scene;
+    scene.Files.Put(kBobsPath, WriteDiary(DiaryTable()));
+    scene.WriteFromOutside(ClockScene::Today(), {MakeEvent(9, 0, "bob's", "Never", "Email")},
+                           kBobsPath);
+    scene.Add(9, 0, "mine", "Email");
+    scene.Files.HoldLock(kDataPath);
+    scene.PassAt(9, 0);
+    scene.Store.GetData(kBobsFolder);
+    scene.PassAt(9, 1);
+    scene.Files.ReleaseLock(kDataPath);
+    scene.Store.GetData(kFolder);
+    scene.PassAt(9, 2);
+    EXPECT_THAT(scene.Mail.Sent, ElementsAre("mine", "bob's")) << "each once";
+    EXPECT_EQ(scene.ReminderOnFile(), "None");
+    EXPECT_EQ(scene.OnFile(kBobsPath).At({1, ClockScene::Today()}).Rmd, "Email");
+
+    scene.Add(9, 3, "late", "Email");
+    scene.Files.HoldLock(kDataPath);
+    scene.PassAt(9, 3);
+    EXPECT_TRUE(scene.Review.HasChanges());
+    scene.Clock.Time = {2026, 4, 15, 0, 0, 0};
+    scene.Tick.Timer1_Timer();
+    EXPECT_FALSE(scene.Review.HasChanges());
+}
+
 } // namespace
 } // namespace kestrova

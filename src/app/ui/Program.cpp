@@ -309,7 +309,7 @@ void Program::RunCheck_Change(std::string_view text) {
 void Program::DiaryReloaded() {
     formCal_.Redraw(FormCal::kSameMonth);
     if (DayPageVisible() && !diary_->IsEditing()) {
-        diary_->DrawMainPage();
+        diary_->Reload();
     }
 }
 

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <set>
-#include <utility>
 
 namespace kestrova {
 
@@ -90,7 +89,7 @@ void Diary::DrawMainPage() {
     if (edit_ != nullptr) {
         edit_->Drop();
     }
-    if (std::exchange(gone_, false) && FillDiaries()) {
+    if (gone_ && FillDiaries()) {
         hooks_.Changed();
     }
     FillLists();
@@ -110,6 +109,8 @@ void Diary::DrawMainPage() {
         year ? DayRows(rooms_.Store.Table(), day) : std::array<DayRow, kEventsPerDay>{};
     for (int i = 1; i <= kEventsPerDay; ++i) {
         const DayRow& row = rows[static_cast<std::size_t>(i - 1)];
+        events_[static_cast<std::size_t>(i)] =
+            year ? rooms_.Store.Table().At({i, day}) : DiaryEvent{};
         ShowRow(i, ToQt(row.Time), ToQt(row.Message), ToQt(row.Repeat), ToQt(row.Reminder));
         QCheckBox* const hide = ChkHide[static_cast<std::size_t>(i)];
         hide->setChecked(row.Hidden);
@@ -205,7 +206,9 @@ void Diary::keyPressEvent(QKeyEvent* event) {
         MoveRow(key == Qt::Key_Up ? -1 : 1);
         return;
     }
-    if (!IsEditing() && key == Qt::Key_Delete && row_ > 0) {
+    // The key means the row only where the eye sees it: not in the list of diaries, for one.
+    if (!IsEditing() && key == Qt::Key_Delete && row_ > 0 &&
+        LabEvent[static_cast<std::size_t>(row_)]->hasFocus()) {
         LabEvent_DblClick(row_);
         MNU_Delete_Click();
         return;

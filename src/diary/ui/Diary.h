@@ -55,6 +55,10 @@ public:
     // Rebuilds the page from the table; an edit under way is given up.
     void DrawMainPage();
 
+    // The same when the diary has been loaded anew; the keyboard stays on the event it stands on,
+    // wherever that has gone.
+    void Reload();
+
     [[nodiscard]] bool IsEditing() const { return editSlot_.has_value(); }
 
     // Fills the list of diaries. When the one shown is no longer there, "My Diary" is shown again,
@@ -100,6 +104,7 @@ private:
     [[nodiscard]] int RowTop(int row) const;
 
     void LabEvent_DblClick(int index);
+    [[nodiscard]] int SlotOf(const DiaryEvent& event, int row) const;
     void ComDataAcpt_Click();
     void ComInfo_Click();
     void TextTime_Change(QLineEdit& box, QString& accepted, int limit);
@@ -124,7 +129,8 @@ private:
     bool gone_ = false;           // the diary shown, while a row of it is edited
     std::optional<int> editSlot_; // EditSlot: the row being edited, 0 for a new event
     EventDraft before_;           // what the editor was filled with
-    int row_ = 0;                 // the row on which the keyboard stands
+    std::array<DiaryEvent, kEventsPerDay + 1> events_; // what the rows show, 0 unused
+    int row_ = 0;                                      // the row on which the keyboard stands
     QString acceptedHour_;
     QString acceptedMinute_;
 

@@ -20,32 +20,34 @@ constexpr const char* kDiaryFilter = "Data.dat |*Data.dat;*data.dat;*DATA.DAT";
 } // namespace
 
 void Diary::DoNetUsers() {
-    if (fillsDiaries_) {
-        return; // a message is open, after which the list is filled
-    }
-    const QScopedValueRollback<bool> guard(fillsDiaries_, true);
     if (FillDiaries()) {
         DrawMainPage();
         hooks_.Changed();
     }
 }
 
-// Whether the diary shown has become another.
+// Whether the diary shown has become another. Nobody is asked or told anything: this also happens
+// while nobody is there, and again and again.
 bool Diary::FillDiaries() {
+    if (fillsDiaries_) {
+        return false; // the list is being filled
+    }
+    const QScopedValueRollback<bool> guard(fillsDiaries_, true);
+    gone_ = false;
     offered_ = rooms_.Shared.DoNetUsers();
     bool changed = false;
     if (!rooms_.Store.IsShared()) {
         NetUserName = kMyDiary; // the turn of the year brings it back, too
     }
-    if (std::find(offered_.begin(), offered_.end(), NetUserName) == offered_.end()) {
+    const bool offered = std::find(offered_.begin(), offered_.end(), NetUserName) != offered_.end();
+    if (!offered || rooms_.Store.IsSpoilt()) {
         gone_ = IsEditing();
-        if (!gone_) {
-            rooms_.Store.GetData(rooms_.Shared.FolderOf(std::string(kMyDiary)).value_or(""));
-            changed = !rooms_.Store.IsShared();
-        }
+        // An own diary that is busy is tried again with the next look.
+        changed = !gone_ &&
+                  rooms_.Store.TryShow(rooms_.Shared.FolderOf(std::string(kMyDiary)).value_or(""));
         if (changed) {
             NetUserName = kMyDiary;
-        } else {
+        } else if (!offered) {
             offered_.push_back(NetUserName); // it is shown still
         }
     }
@@ -71,7 +73,7 @@ void Diary::SwitchTo(const std::string& name) {
         DoNetUsers(); // another program has taken it off the register
         return;
     }
-    rooms_.Store.GetData(*folder);
+    rooms_.Store.GetData(*folder, rooms_.Dates.BaseYear);
     if (rooms_.Store.Folder() == *folder) {
         NetUserName = name;
     }

@@ -66,12 +66,39 @@ void Diary::RefillLists() {
     before_.Rmd = TextAt(*CombRmd, CombRmd->findData(reminderBefore));
 }
 
+// The slot in which the diary now has the event that a row has shown; 0 when it has it no more.
+int Diary::SlotOf(const DiaryEvent& event, int row) const {
+    const auto year = rooms_.Dates.PageYearIndex();
+    const DayPlace day{rooms_.Dates.PageDay, rooms_.Dates.PageMonth, year.value_or(0)};
+    const auto slot =
+        year && !event.IsFree() ? FindEvent(rooms_.Store.Table(), day, event, row) : std::nullopt;
+    return slot.value_or(0);
+}
+
+void Diary::Reload() {
+    const auto row = static_cast<std::size_t>(row_);
+    const DiaryEvent marked = events_[row];
+    const bool focus = LabEvent[row]->hasFocus();
+    DrawMainPage();
+    if (focus) {
+        MarkRow(SlotOf(marked, row_));
+    }
+}
+
 void Diary::LabEvent_DblClick(int index) {
     if (IsEditing()) {
         if (IsDraftChanged() || !LeavesEdit()) {
             return; // Enter and Escape say what is to become of it
         }
+        const DiaryEvent wanted = events_[static_cast<std::size_t>(index)];
         DrawMainPage();
+        if (index > 0) {
+            // The diary may have been loaded anew since the rows were drawn.
+            index = SlotOf(wanted, index);
+            if (index == 0) {
+                return;
+            }
+        }
     }
     const AcceptResult begun =
         index == 0 ? rooms_.Editor.BeginNew() : rooms_.Editor.BeginEdit(index);

@@ -24,6 +24,10 @@ constexpr mode_t kFolderMode = 0777;
 constexpr std::chrono::milliseconds kLockPause{10};
 constexpr std::string_view kTemporaryMark = ".new-"; // then six characters
 
+// Up to so many files are synced one by one. Beyond that, syncing the whole file system is quicker,
+// although it waits for what other programs have written, too.
+constexpr std::size_t kFewFiles = 16;
+
 Error SystemError(const std::string& path) {
     const int number = errno;
     ErrorCode code = ErrorCode::Failed;
@@ -70,7 +74,7 @@ void SyncFolderOf(const std::string& path) {
 }
 
 // A new file in the target's folder under a name nobody else uses.
-// `like` is the file whose mode it takes, if that exists.
+// `like` is the file whose owner, group and mode it takes as far as may be, if that exists.
 FileDescriptor OpenTemporary(const std::string& path, const std::string& like,
                              std::string& temporary) {
     temporary = path + std::string(kTemporaryMark) + "XXXXXX";
@@ -80,6 +84,13 @@ FileDescriptor OpenTemporary(const std::string& path, const std::string& like,
         const mode_t mask = ::umask(0);
         ::umask(mask);
         const bool exists = ::stat(like.c_str(), &old) == 0;
+        if (exists) {
+            // Those who could use the file before are to go on using it, above all the friend whose
+            // file it is. Only the administrator may give a file away, and only a member may give
+            // it to a group; to everyone else the file becomes their own, with the same mode.
+            (void)!::fchown(file.Get(), static_cast<uid_t>(-1), old.st_gid);
+            (void)!::fchown(file.Get(), old.st_uid, static_cast<gid_t>(-1));
+        }
         ::fchmod(file.Get(), exists ? old.st_mode & 07777U : kFileMode & ~mask);
     }
     return file;
@@ -194,6 +205,46 @@ Status PosixFileStore::Replace(const std::string& link, std::string_view bytes) 
         return error;
     }
     SyncFolderOf(path);
+    return Done{};
+}
+
+Status PosixFileStore::ReplaceMany(std::span<const FileChange> changes) {
+    const bool few = changes.size() <= kFewFiles;
+    std::string path; // the last one written, in whose file system all are
+    for (const FileChange& change : changes) {
+        const std::string target = Resolve(change.Path);
+        if (!change.Bytes || target != change.Path) {
+            // A link may lead to another file system, which the sync below does not reach.
+            const Status done = change.Bytes ? Replace(target, *change.Bytes) : Remove(change.Path);
+            if (!done) {
+                return done;
+            }
+            path = change.Path;
+            continue;
+        }
+        path = target;
+        std::string temporary;
+        FileDescriptor file = OpenTemporary(path, path, temporary);
+        if (!file) {
+            return SystemError(path);
+        }
+        if (!WriteAll(file.Get(), *change.Bytes) || (few && ::fsync(file.Get()) != 0) ||
+            !file.Close() || ::rename(temporary.c_str(), path.c_str()) != 0) {
+            const Error error = SystemError(path);
+            ::unlink(temporary.c_str());
+            return error;
+        }
+    }
+    if (few) {
+        if (!path.empty()) {
+            SyncFolderOf(path);
+        }
+        return Done{};
+    }
+    const FileDescriptor folder(::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder || ::syncfs(folder.Get()) != 0) {
+        return SystemError(path);
+    }
     return Done{};
 }
 

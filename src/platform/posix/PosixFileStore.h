@@ -10,6 +10,7 @@ class PosixFileStore : public FileStore {
 public:
     Result<std::string> Read(const std::string& path, std::size_t limit) const override;
     Status Replace(const std::string& path, std::string_view bytes) override;
+    Status ReplaceMany(std::span<const FileChange> changes) override;
     Status CopyToNew(const std::string& from, const std::string& to) override;
     Status MoveToNew(const std::string& from, const std::string& to) override;
     Status Remove(const std::string& path) override;

@@ -222,5 +222,55 @@ TEST(DiaryNetTest, ItemsAreKnownByPlaceWhateverTheLanguage) {
     EXPECT_EQ(page.Files.Content(kRegister), std::string(kOwnPair) + "/net/bob/\r\nBob\r\n");
 }
 
+TEST(DiaryNetTest, ADiaryThatHasGoneWaitsInSilenceForABusyOwnOne) {
+    NetScene page;
+    page.Choose(1);
+    *page.Network = false;
+    page.Files.HoldLock(kDataPath);
+    for (int look = 0; look < 3; ++look) {
+        page.Window.DoNetUsers();
+        EXPECT_EQ(page.Chosen(), "Bob");
+        EXPECT_EQ(page.Text("LabEvent(1)"), "bob's");
+    }
+    EXPECT_TRUE(page.Boxes.Shown.empty());
+    EXPECT_EQ(page.Files.Waited.count(), 0);
+    page.Files.ReleaseLock(kDataPath);
+    page.Window.DoNetUsers();
+    EXPECT_EQ(page.Chosen(), "My Diary");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "mine");
+}
+
+TEST(DiaryNetTest, ADiaryThatGetsDamagedGivesWayToTheOwnOneAndIsOfferedStill) {
+    NetScene page;
+    page.Choose(1);
+    page.Files.Put(kBobsPath, "no diary");
+    (void)page.Store.Refresh();
+    (void)page.Store.Refresh();
+    page.Window.DoNetUsers();
+    EXPECT_EQ(page.Chosen(), "My Diary");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "mine");
+    EXPECT_THAT(page.Items(), ElementsAre("My Diary", "Bob", "Add Net User"));
+    EXPECT_TRUE(page.Boxes.Shown.empty());
+}
+
+TEST(DiaryNetTest, ADiaryOfAnotherYearIsRefused) {
+    NetScene page;
+    page.Files.Put("/net/bob/DiaryDat/Year.dat", "2025\r\n");
+    page.Choose(1);
+    ASSERT_EQ(page.Boxes.Shown.size(), 1U);
+    EXPECT_EQ(page.Boxes.Shown[0].Text, TextOf(page.Texts, ProgramText::OtherYear, "2025"));
+    EXPECT_EQ(page.Boxes.Shown[0].Title, "Kestrova Messenger");
+    EXPECT_EQ(page.Chosen(), "My Diary");
+    EXPECT_EQ(page.Text("LabEvent(1)"), "mine");
+}
+
+TEST(DiaryNetTest, TheDeleteKeyDeletesNoEventFromTheList) {
+    NetScene page;
+    page.Find<QLabel>("LabEvent(1)")->setFocus();
+    page.List()->setFocus();
+    QTest::keyClick(page.List(), Qt::Key_Delete);
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "mine");
+}
+
 } // namespace
 } // namespace kestrova

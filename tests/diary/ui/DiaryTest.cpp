@@ -186,6 +186,30 @@ TEST(DiaryWindowTest, AClickElsewhereGoesThereUnlessSomethingWasTyped) {
     EXPECT_EQ(page.Find<QLineEdit>("TextMsg")->text(), QStringLiteral("eleven!"));
 }
 
+TEST(DiaryWindowTest, AClickGoesToTheEventThatTheRowShows) {
+    const struct {
+        std::vector<DiaryEvent> Now; // in the diary, which was loaded anew during the edit
+        const char* Edited;          // nullptr: none
+    } rows[] = {
+        {{MakeEvent(8, 0, "early"), MakeEvent(10, 0, "ten"), MakeEvent(11, 0, "eleven")}, "eleven"},
+        {{MakeEvent(8, 0, "early"), MakeEvent(10, 0, "ten")}, nullptr},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        PageScene page;
+        page.Add("10", "ten");
+        page.Add("11", "eleven");
+        page.Click("LabEvent(1)");
+        page.WriteFromOutside(kDay, row.Now);
+        EXPECT_EQ(page.Store.Refresh(), DiaryNews::Reloaded);
+        page.Click("LabEvent(2)");
+        EXPECT_EQ(page.Window.IsEditing(), row.Edited != nullptr);
+        if (row.Edited != nullptr) {
+            EXPECT_EQ(page.Find<QLineEdit>("TextMsg")->text(), QLatin1String(row.Edited));
+        }
+    }
+}
+
 TEST(DiaryWindowTest, EnterAcceptsFromEveryControlOfTheRow) {
     for (const char* const name : {"TextTme", "TextTmm", "CombRpt", "CombRmd", "ChkHide(0)"}) {
         SCOPED_TRACE(name);
@@ -262,6 +286,18 @@ TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
     EXPECT_EQ(line(1)->text(), QStringLiteral("10:00    d"));
     EXPECT_FALSE(line(2)->isVisible());
     EXPECT_EQ(window.height(), Pixels(2 * 255 + 1450));
+}
+
+TEST(DiaryWindowTest, AReloadLeavesTheKeyboardOnItsEvent) {
+    PageScene page;
+    page.Add("10", "mine");
+    page.Find<QLabel>("LabEvent(1)")->setFocus();
+    page.WriteFromOutside(kDay, {MakeEvent(8, 0, "another's"), MakeEvent(10, 0, "mine")});
+    EXPECT_EQ(page.Store.Refresh(), DiaryNews::Reloaded);
+    page.Window.Reload();
+    EXPECT_TRUE(page.Find<QLabel>("LabEvent(2)")->hasFocus());
+    QTest::keyClick(page.Find<QLabel>("LabEvent(2)"), Qt::Key_Delete);
+    EXPECT_EQ(Messages(page.Store.Table(), kDay), "another's");
 }
 
 } // namespace

@@ -49,22 +49,30 @@ TEST(EditWindowTest, TheWindowShowsTheNoteOfTheRow) {
 }
 
 TEST(EditWindowTest, WhatIsTypedIsSavedWhenTheEditorIsLeftOrClosed) {
-    const std::function<void(EditScene&)> leavings[] = {
-        [](EditScene& scene) { scene.Find<QLineEdit>("TextMsg")->activateWindow(); },
-        [](EditScene& scene) { scene.NoteWindow()->close(); },
-        [](EditScene& scene) { QTest::keyClick(scene.NoteText(), Qt::Key_Escape); },
-        [](EditScene& scene) { QTest::keyClick(scene.Find<QLineEdit>("TextMsg"), Qt::Key_Escape); },
-        [](EditScene& scene) { scene.Find<QPushButton>("ComDataAcpt")->click(); },
-        [](EditScene& scene) { scene.Window.close(); },
-        [](EditScene& scene) { EXPECT_TRUE(scene.Window.SaveNote(SaveMessages::Keep)); },
+    const struct {
+        std::function<void(EditScene&)> Leave;
+        bool Editing, NoteOpen; // afterwards
+    } rows[] = {
+        {[](EditScene& scene) { scene.Find<QLineEdit>("TextMsg")->activateWindow(); }, true, true},
+        {[](EditScene& scene) { scene.NoteWindow()->close(); }, true, false},
+        {[](EditScene& scene) { QTest::keyClick(scene.NoteText(), Qt::Key_Escape); }, true, false},
+        {[](EditScene& scene) {
+             QTest::keyClick(scene.Find<QLineEdit>("TextMsg"), Qt::Key_Escape);
+         },
+         false, false},
+        {[](EditScene& scene) { scene.Find<QPushButton>("ComDataAcpt")->click(); }, false, false},
+        {[](EditScene& scene) { scene.Window.close(); }, false, false},
+        {[](EditScene& scene) { EXPECT_TRUE(scene.Window.SaveNote(SaveMessages::Keep)); }, true,
+         true},
     };
-    for (const auto& leave : leavings) {
-        SCOPED_TRACE(&leave - leavings);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
         EditScene scene;
         scene.Type("typed");
-        leave(scene);
+        row.Leave(scene);
         EXPECT_TRUE(QTest::qWaitFor([&] { return scene.OnDisc1() == "typed\r\n"; }));
-        EXPECT_EQ(scene.Window.IsEditing() || !scene.NoteWindow()->isVisible(), true);
+        EXPECT_EQ(scene.Window.IsEditing(), row.Editing);
+        EXPECT_EQ(scene.NoteWindow()->isVisible(), row.NoteOpen);
     }
 }
 
@@ -200,7 +208,7 @@ TEST(EditWindowTest, ALargeNoteOpensAndIsSavedQuickly) {
     scene.Type("!");
     scene.NoteWindow()->close();
     EXPECT_EQ(scene.OnDisc1().size(), bytes.size() + 1);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1));
 }
 
 TEST(EditWindowTest, TheLabelReadsTheNoteAloudWhenSpeechIsOn) {

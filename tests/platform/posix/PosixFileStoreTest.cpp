@@ -9,9 +9,11 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <grp.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace kestrova {
 namespace {
@@ -126,6 +128,62 @@ TEST_F(PosixFileStoreTest, AReplacedFileKeepsItsModeAndANewOneTakesTheUsers) {
         ::chmod((folder_ / "New.dat").c_str(), mode);
         EXPECT_TRUE(files_.Replace(folder_ / "New.dat", "newer"));
         EXPECT_EQ(ModeOf("New.dat"), mode);
+    }
+}
+
+TEST_F(PosixFileStoreTest, AReplacedFileStaysWithItsOwnerAndGroup) {
+    constexpr uid_t kOwner = 4242;
+    constexpr gid_t kGroup = 4243;
+    const std::string path = folder_ / "Data.dat";
+    folder_.Write("Data.dat", "theirs");
+    if (::chown(path.c_str(), kOwner, kGroup) != 0) {
+        GTEST_SKIP() << "only the administrator can give a file away";
+    }
+    ::chmod(path.c_str(), 0664);
+    ::chmod(folder_.Path().c_str(), 0777);
+    // A member of the group, who is not the owner, and then the administrator.
+    EXPECT_EQ(OtherProcess([&] {
+                  constexpr uid_t kMember = 4244;
+                  return ::setgroups(1, &kGroup) == 0 && ::setgid(kMember) == 0 &&
+                                 ::setuid(kMember) == 0 && files_.Replace(path, "edited")
+                             ? 0
+                             : 1;
+              }).Wait(),
+              0);
+    struct stat info {};
+    ASSERT_EQ(::stat(path.c_str(), &info), 0);
+    EXPECT_EQ(info.st_gid, kGroup);
+    EXPECT_EQ(info.st_mode & 07777U, 0664U) << "the owner can write it still";
+    ASSERT_EQ(::chown(path.c_str(), kOwner, kGroup), 0);
+    ASSERT_TRUE(files_.Replace(path, "edited again"));
+    ASSERT_EQ(::stat(path.c_str(), &info), 0);
+    EXPECT_EQ(info.st_uid, kOwner);
+}
+
+TEST_F(PosixFileStoreTest, ManyFilesAreReplacedAndRemovedTogether) {
+    for (const int count : {0, 1, 40}) {
+        SCOPED_TRACE(count);
+        folder_.Write("Gone.txt", "old");
+        folder_.Write("Target.txt", "old");
+        ASSERT_EQ(::symlink("Target.txt", (folder_ / "Link.txt").c_str()), 0);
+        ::chmod((folder_ / "Target.txt").c_str(), 0600);
+        std::vector<FileChange> changes = {{folder_ / "Gone.txt", std::nullopt},
+                                           {folder_ / "None.txt", std::nullopt},
+                                           {folder_ / "Link.txt", "new"}};
+        for (int i = 0; i < count; ++i) {
+            changes.push_back({folder_ / std::to_string(i), "text"});
+        }
+        EXPECT_TRUE(files_.ReplaceMany(changes));
+        EXPECT_EQ(folder_.Content("Target.txt"), "new");
+        EXPECT_EQ(ModeOf("Target.txt"), 0600U);
+        EXPECT_EQ(Names().size(), 2U + static_cast<std::size_t>(count)) << "and no temporaries";
+        for (int i = 0; i < count; ++i) {
+            EXPECT_EQ(folder_.Content(std::to_string(i)), "text");
+        }
+        EXPECT_FALSE(files_.ReplaceMany({{{folder_ / "none/x", "x"}}}));
+        for (const std::string& name : Names()) {
+            EXPECT_TRUE(files_.Remove(folder_ / name));
+        }
     }
 }
 
