@@ -68,10 +68,9 @@ RegisterResult SharedDiaries::Write(const std::vector<NetUser>& users) {
 std::vector<std::string> SharedDiaries::DoNetUsers() {
     std::vector<std::string> names{std::string(kMyDiary)};
     const std::vector<NetUser> users = Known();
-    std::vector<std::string> folders;
-    for (const NetUser& user : users) {
-        folders.push_back(user.Folder);
-    }
+    std::vector<std::string> folders(users.size());
+    std::transform(users.begin(), users.end(), folders.begin(),
+                   [](const NetUser& user) { return user.Folder; });
     const std::set<std::string> answering = rooms_.Probe.Answering(folders);
     for (const NetUser& user : users) {
         const bool listed = std::find(names.begin(), names.end(), user.Name) != names.end();

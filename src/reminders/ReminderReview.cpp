@@ -5,6 +5,7 @@
 #include "text/Numbers.h"
 
 #include <algorithm>
+#include <compare>
 
 namespace kestrova {
 
@@ -58,7 +59,8 @@ CalendarDate ReminderReview::TodaysDate() const {
 std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
     lines_.clear();
     // Yesterday's reminders do not come again, whatever the file says.
-    std::erase_if(usedUp_, [this](const UsedUp& used) { return used.Date < TodaysDate(); });
+    std::erase_if(usedUp_,
+                  [this](const UsedUp& used) { return std::is_lt(used.Date <=> TodaysDate()); });
     // The diary may have been loaded anew before all marks could be written.
     ApplyMarks(rooms_.Store.Table());
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
