@@ -19,7 +19,8 @@ struct CalendarDate {
     int Month = 0; // 0 = January ... 11 = December
     int Day = 1;   // 1-31
 
-    auto operator<=>(const CalendarDate&) const = default;
+    // clang-tidy 14 takes the zero in what the compiler makes of this for a pointer.
+    auto operator<=>(const CalendarDate&) const = default; // NOLINT(modernize-use-nullptr)
 };
 
 // The day with which a week begins. The numbers stand in the settings file.

@@ -5,7 +5,6 @@
 #include "text/Numbers.h"
 
 #include <algorithm>
-#include <compare>
 
 namespace kestrova {
 
@@ -60,7 +59,7 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
     lines_.clear();
     // Yesterday's reminders do not come again, whatever the file says.
     std::erase_if(usedUp_,
-                  [this](const UsedUp& used) { return std::is_lt(used.Date <=> TodaysDate()); });
+                  [this](const UsedUp& used) { return used.Date < TodaysDate(); });
     // The diary may have been loaded anew before all marks could be written.
     ApplyMarks(rooms_.Store.Table());
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
