@@ -43,6 +43,9 @@ struct NoDialogs : Dialogs {
                                         const std::string& /*filter*/) override {
         return std::nullopt;
     }
+    std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
+        return std::nullopt;
+    }
 };
 
 struct NoLoop : EventLoop {
