@@ -103,9 +103,10 @@ void WriteJournals(const std::filesystem::path& root) {
     journal.DiaryDigest = 0xFFFFFFFFFFFFFFFFU;
     journal.DiarySize = 300000;
     journal.RolledTo = 2027;
-    journal.Notes[kestrova::GetFile({1, 1, 0, 0})] = "one\r\nend\ntwo";
+    journal.Texts = {"one\r\nend\ntwo", ""};
+    journal.Notes[kestrova::GetFile({1, 1, 0, 0})] = 0;
     journal.Notes[kestrova::GetFile({10, 31, 11, 1})] = std::nullopt;
-    journal.Notes[kestrova::GetFile({2, 25, 5, 0})] = "";
+    journal.Notes[kestrova::GetFile({2, 25, 5, 0})] = 1;
     seeds.Write("full", kestrova::WriteJournal(journal));
 }
 
