@@ -6,7 +6,7 @@
 
 #include "diary/DiaryStore.h"
 #include "mail/UnavailableMail.h"
-#include "media/UnavailableMedia.h"
+#include "media/MediaPanel.h"
 #include "phone/UnavailableCaller.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
@@ -43,9 +43,24 @@ struct NoDialogs : Dialogs {
                                         const std::string& /*filter*/) override {
         return std::nullopt;
     }
+    std::optional<std::string> SaveFile(const std::string& /*folder*/,
+                                        const std::string& /*filter*/) override {
+        return std::nullopt;
+    }
     std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
         return std::nullopt;
     }
+};
+
+struct NoMedia : MediaPanel {
+    bool SoundWorks() const override { return false; }
+    bool VideoWorks() const override { return false; }
+    bool CdWorks() const override { return false; }
+    bool ShowsVideo() const override { return false; }
+    void MakeSound(const std::string& /*path*/) override {}
+    bool PlayReminder(const std::string& /*path*/) override { return false; }
+    bool PlayCd() override { return false; }
+    void CleanUp() override {}
 };
 
 struct NoLoop : EventLoop {
@@ -90,7 +105,7 @@ struct Running {
     UnavailableSpeaker Speech;
     UnavailableCaller Phone;
     UnavailableMail Mail;
-    UnavailableMedia Media;
+    NoMedia Media;
     ReminderReview Review{{Store, Dates, Texts, Settings, Speech, Phone, Mail, Media, Loop, Bell}};
     ClockTick Tick{
         {Time, Store, Dates, Texts, Settings, Folder, Review, Speech, Media, Bell, Windows}};

@@ -6,6 +6,9 @@
 #include "platform/qt/SignalWatch.h"
 
 #include <QApplication>
+#include <QFileInfo>
+
+#include <algorithm>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -18,11 +21,20 @@ int main(int argc, char** argv) {
     if (link.Join() == kestrova::InstanceRole::Newcomer) {
         return 0;
     }
-    // The whole command line is one path, blanks and all, unless the session starts the program.
+    // The whole command line is one path, blanks and all, but for what the session says when it
+    // starts the program and for the disc that the CD player is to play.
     QStringList words = QApplication::arguments().mid(1);
     const bool hidden = words.removeAll(QStringLiteral("--hidden")) > 0;
-    kestrova::Program program(kestrova::FindDataFolder(),
-                              kestrova::FromQt(words.join(QLatin1Char(' '))), link);
+    QString disc;
+    if (const auto option = words.indexOf(QStringLiteral("--cd")); option >= 0) {
+        disc = words.value(option + 1);
+        words.remove(option, std::min<qsizetype>(2, words.size() - option));
+    }
+    const QString media = words.join(QLatin1Char(' '));
+    const auto absolute = [](const QString& path) {
+        return kestrova::FromQt(path.isEmpty() ? path : QFileInfo(path).absoluteFilePath());
+    };
+    kestrova::Program program({kestrova::FindDataFolder(), absolute(media), absolute(disc)}, link);
     const kestrova::SignalWatch signals([&program] { program.End(); });
     // The desktop says when the session ends, too.
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,

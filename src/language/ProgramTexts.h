@@ -134,6 +134,28 @@ enum class ProgramText {
     PictureFilter,
     PuzzleUnsuitable,
 
+    // pictures, sounds, films and the CD
+    MenuHalfScreen,
+    MenuMedia,
+    MenuSavePicture,
+    MenuMonthPicture,
+    MediaPrevious,
+    MediaNext,
+    MediaPlay,
+    MediaPause,
+    MediaStop,
+    MediaEject,
+    MediaPosition,
+    CdPlayer,
+    MediaGone,
+    MediaFailed,
+    CdMissing,
+    CdFailed,
+    BitmapFilter,
+    PictureNotSaved,
+    PictureNotReplaced,
+    NotAPicture,
+
     Count
 };
 inline constexpr std::size_t kProgramTexts = static_cast<std::size_t>(ProgramText::Count);

@@ -18,7 +18,13 @@ inline constexpr TextId kModemPorts{TextGroup::Selectors, 20};
 inline constexpr TextId kReminderKinds{TextGroup::Selectors, 30};
 inline constexpr TextId kRepeatKinds{TextGroup::Selectors, 40};
 
+inline constexpr TextId kChangeMonthPicture{TextGroup::Buttons, 1};
+
 inline constexpr TextId kAddLine{TextGroup::Labels, 0};
+inline constexpr TextId kOn{TextGroup::Labels, 29};
+inline constexpr TextId kOff{TextGroup::Labels, 30};
+
+inline constexpr TextId kFullScreenTip{TextGroup::Tips, 35};
 
 inline constexpr TextId kNoMonthlyAbove28{TextGroup::Messages, 4};
 inline constexpr TextId kNoAnnualLeapDay{TextGroup::Messages, 5};

@@ -10,7 +10,8 @@ namespace kestrova {
 
 namespace {
 
-// The files of one folder, found by name without their extension.
+// The files of one folder, found by name without their extension. The case of letters does not
+// count, but a name that has the right one comes first.
 class Folder {
 public:
     Folder(const FileStore& files, std::string path) : path_(std::move(path)) {
@@ -20,28 +21,40 @@ public:
 
     // The full path of the first file "<stem>.<anything>"; empty when there is none.
     [[nodiscard]] std::string Find(const std::string& stem) const {
-        const std::string start = stem + ".";
-        for (const std::string& name : names_) {
-            if (name.starts_with(start) && name.find('.', start.size()) == std::string::npos) {
-                return path_ + name;
-            }
-        }
-        return {};
+        return First([&stem](const std::string& name) { return IsPictureOf(name, stem); },
+                     [&stem](const std::string& name) { return name.starts_with(stem); });
     }
 
     // The same for one extension.
     [[nodiscard]] std::string Find(const std::string& stem, std::string_view extension) const {
-        const std::string name = stem + std::string(extension);
-        const bool found = std::binary_search(names_.begin(), names_.end(), name);
-        return found ? path_ + name : std::string();
+        const std::string wanted = stem + std::string(extension);
+        return First([&wanted](const std::string& name) { return IsSameName(name, wanted); },
+                     [&wanted](const std::string& name) { return name == wanted; });
     }
 
 private:
+    template<typename Fits, typename Exactly>
+    [[nodiscard]] std::string First(Fits fits, Exactly exactly) const {
+        const std::string* found = nullptr;
+        for (const std::string& name : names_) {
+            if (fits(name) && (found == nullptr || (exactly(name) && !exactly(*found)))) {
+                found = &name;
+            }
+        }
+        return found == nullptr ? std::string() : path_ + *found;
+    }
+
     std::string path_;
     std::vector<std::string> names_;
 };
 
 } // namespace
+
+bool IsPictureOf(std::string_view name, std::string_view stem) {
+    return name.size() > stem.size() && name[stem.size()] == '.' &&
+           IsSameName(name.substr(0, stem.size()), stem) &&
+           name.find('.', stem.size() + 1) == std::string_view::npos;
+}
 
 PictureTable ScanPictures(const FileStore& files, const std::string& dataFolder,
                           const Selection& today) {

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace kestrova {
 
@@ -19,8 +20,13 @@ struct PictureTable {
     bool operator==(const PictureTable&) const = default;
 };
 
+// Whether a file of this name is a picture, or whatever else, of this stem: the stem, a dot, and an
+// ending without another. The case of the letters A to Z does not count.
+[[nodiscard]] bool IsPictureOf(std::string_view name, std::string_view stem);
+
 // Looks which files there are. Of several pictures of one name the first in alphabetical order is
-// taken, so that every start shows the same.
+// taken, so that every start shows the same; but one that is written exactly so comes before others
+// ("january.JPG").
 [[nodiscard]] PictureTable ScanPictures(const FileStore& files, const std::string& dataFolder,
                                         const Selection& today);
 

@@ -55,6 +55,11 @@ public:
     virtual std::optional<std::string> OpenFile(const std::string& folder,
                                                 const std::string& filter) = 0;
 
+    // The path of a file to write, which may exist: the user has been asked about that. It ends in
+    // the first ending of the filter. Nothing when the user cancels.
+    virtual std::optional<std::string> SaveFile(const std::string& folder,
+                                                const std::string& filter) = 0;
+
     // A font of this machine. Nothing when the user cancels.
     virtual std::optional<FontChoice> ChooseFont(const FontChoice& offered) = 0;
 };

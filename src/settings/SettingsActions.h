@@ -39,6 +39,9 @@ public:
     // answers. Takes seconds, handling events.
     virtual std::optional<std::string> FindModem() = 0;
 
+    // Whether sounds can be heard now.
+    [[nodiscard]] virtual bool SoundWorks() const = 0;
+
     // Plays a sound file once.
     virtual void MakeSound(const std::string& path) = 0;
 

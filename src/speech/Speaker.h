@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/VoiceEngine.h"
+
 #include <string>
 #include <vector>
 
@@ -29,6 +31,13 @@ public:
 
     // Begins to speak and returns at once; texts are spoken one after the other.
     virtual void Speak(const std::string& text) = 0;
+
+    // Whether words are being spoken, or wait to be.
+    [[nodiscard]] virtual bool IsSpeaking() const = 0;
+
+    // The words as the character would speak them, with the pitch and speed of the settings;
+    // nothing is heard. NotFound when there is no voice.
+    [[nodiscard]] virtual Result<SpokenSound> Record(const std::string& text) = 0;
 
     // Set when the user clicks the character, by which a spoken reminder is acknowledged.
     [[nodiscard]] virtual bool StopSpeaking() const = 0;

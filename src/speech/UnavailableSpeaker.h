@@ -15,6 +15,10 @@ public:
     void Show() override {}
     void Hide() override {}
     void Speak(const std::string& /*text*/) override {}
+    [[nodiscard]] bool IsSpeaking() const override { return false; }
+    [[nodiscard]] Result<SpokenSound> Record(const std::string& /*text*/) override {
+        return Error{ErrorCode::NotFound, "no voice"};
+    }
     [[nodiscard]] bool StopSpeaking() const override { return false; }
     void SetStopSpeaking(bool /*stop*/) override {}
     void Talk(const std::string& /*text*/, AfterSpeaking /*after*/) override {}

@@ -50,6 +50,12 @@ public:
         return Take(Files, std::optional<std::string>());
     }
 
+    std::optional<std::string> SaveFile(const std::string& /*folder*/,
+                                        const std::string& filter) override {
+        Prompts.push_back(filter);
+        return Take(Files, std::optional<std::string>());
+    }
+
     std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
         return Take(Fonts, std::optional<FontChoice>());
     }

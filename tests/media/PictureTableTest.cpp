@@ -34,6 +34,10 @@ TEST(PictureTableTest, MonthsTakeThePictureOfTheirName) {
         {"a longer name", {"Images/January at home.jpg", "Images/Januaryjpg"}, ""},
         {"a file half written", {"Images/January.jpg.Xy12Zz"}, ""},
         {"a backup folder", {"Images/Original/January.jpg"}, ""},
+        {"another case", {"Images/january.JPG"}, "/k/Images/january.JPG"},
+        {"the right case first",
+         {"Images/JANUARY.bmp", "Images/January.jpg", "Images/january.gif"},
+         "/k/Images/January.jpg"},
         {"another folder", {"Speech/January.jpg", "January.jpg"}, ""},
     };
     for (const Row& row : rows) {
@@ -59,6 +63,7 @@ TEST(PictureTableTest, EveryMonthHasItsOwnPictureAndText) {
 
 TEST(PictureTableTest, AMonthsTextIsATextFile) {
     EXPECT_EQ(Scan({"Speech/May.wav"}).MonthSpeech[4], "");
+    EXPECT_EQ(Scan({"Speech/MAY.TXT"}).MonthSpeech[4], "/k/Speech/MAY.TXT");
     EXPECT_EQ(Scan({"Speech/May.txt", "Speech/May.wav"}).MonthSpeech[4], "/k/Speech/May.txt");
 }
 

@@ -27,6 +27,10 @@ struct RecordingSpeaker : Speaker {
     void Show() override { Visible = true; }
     void Hide() override { Visible = false; }
     void Speak(const std::string& text) override { Spoken.push_back(text); }
+    bool IsSpeaking() const override { return false; }
+    Result<SpokenSound> Record(const std::string& /*text*/) override {
+        return Error{ErrorCode::NotFound, ""};
+    }
     bool StopSpeaking() const override { return Stop; }
     void SetStopSpeaking(bool stop) override { Stop = stop; }
     void Talk(const std::string& text, AfterSpeaking /*after*/) override { Spoken.push_back(text); }

@@ -153,11 +153,9 @@ void FormCal::GetPicture() {
 
 void FormCal::ApplySettings() {
     Image1->SetFit(rooms_.Settings.KeepAspect != 0 ? PictureFit::KeepAspect : PictureFit::Fill);
-    // Without video these would be switches that switch nothing.
-    MNU_Full->setEnabled(rooms_.Media.VideoWorks());
-    MNU_Repeat->setEnabled(rooms_.Media.VideoWorks());
     MNU_Full->setChecked(rooms_.Settings.VideoFullScreen != 0);
     MNU_Repeat->setChecked(rooms_.Settings.VideoRepeat != 0);
+    rooms_.Media.SettingsChanged();
 }
 
 void FormCal::Form_Activate() {
@@ -240,7 +238,7 @@ bool FormCal::HandleMoveKey(const QKeyEvent& event) {
 }
 
 void FormCal::keyPressEvent(QKeyEvent* event) {
-    if (HandleMoveKey(*event)) {
+    if (stage_->HandleKey(*event) || HandleMoveKey(*event)) {
         return;
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -339,13 +337,55 @@ void FormCal::MNU_Settings_Click() {
     hooks_.OpenSettings();
 }
 
+// The half view has the picture or the film alone.
+void FormCal::ViewChanged() {
+    const bool half = rooms_.Media.View() == MediaViewMode::Half;
+    card_->setVisible(!half);
+    if (half) {
+        setFocus();
+    } else {
+        card_->setFocus();
+        Redraw(kSameMonth);
+    }
+}
+
+void FormCal::MNU_File_Click() {
+    const bool film = rooms_.Media.ShowsVideo();
+    MNU_Half->setEnabled(!film);
+    MNU_Half->setChecked(!film && rooms_.Media.View() == MediaViewMode::Half);
+    MNU_Save->setEnabled(!film && Image1->HasPicture());
+    MNU_Full->setChecked(rooms_.Settings.VideoFullScreen != 0);
+    MNU_Repeat->setChecked(rooms_.Settings.VideoRepeat != 0);
+}
+
 void FormCal::MNU_Full_Click() {
     rooms_.Settings.VideoFullScreen = MNU_Full->isChecked() ? 1 : 0;
     hooks_.SettingsChanged();
+    if (MNU_Full->isChecked() != (rooms_.Media.View() == MediaViewMode::Full)) {
+        rooms_.Media.LabMusic_DblClick();
+    }
+}
+
+void FormCal::MNU_Half_Click() {
+    rooms_.Media.LabMusic_Click();
+}
+
+// GetVideo
+void FormCal::MNU_Media_Click() {
+    if (const auto path =
+            rooms_.Boxes.OpenFile("", TextOf(rooms_.Texts, ProgramText::MediaFilter))) {
+        rooms_.Media.PlayFile(*path);
+    }
+}
+
+void FormCal::MNU_Picture_Click() {
+    hooks_.ChPic();
+    MNU_Mon_Click(rooms_.Dates.PageMonth);
 }
 
 void FormCal::MNU_Repeat_Click() {
     rooms_.Settings.VideoRepeat = MNU_Repeat->isChecked() ? 1 : 0;
+    rooms_.Media.SettingsChanged();
     hooks_.SettingsChanged();
 }
 

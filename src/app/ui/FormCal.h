@@ -3,15 +3,16 @@
 
 #include "app/ui/DateLabel.h"
 #include "app/ui/GameMenu.h"
-#include "app/ui/PictureBox.h"
 #include "calendar/Selection.h"
 #include "diary/DiaryStore.h"
 #include "language/Languages.h"
-#include "media/MediaPanel.h"
+#include "media/MediaService.h"
 #include "media/PictureTable.h"
+#include "media/ui/MediaStage.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Shell.h"
+#include "platform/qt/QtText.h"
 #include "settings/AppSettings.h"
 #include "speech/Speaker.h"
 #include "ui/ClickLabel.h"
@@ -42,7 +43,7 @@ public:
         const PictureTable& Pictures;
         const std::string& DataFolder;
         Speaker& Speech;
-        MediaPanel& Media;
+        MediaService& Media;
         Dialogs& Boxes;
         Shell& Desktop;
         const Clock& Time;
@@ -59,6 +60,8 @@ public:
         std::function<void()> FirstDrawn;
         std::function<void(int minutes)> SetReturnCountdown;
         std::function<void()> GotFocus;
+        std::function<void()> ChPic;   // the user is to choose another picture for the month
+        std::function<void()> SavePic; // and where the one on show is kept as a bitmap
         std::function<void()> Quit;
     };
 
@@ -70,6 +73,12 @@ public:
 
     // Loads the picture of the month on show.
     void GetPicture();
+
+    // The file of the picture on show; empty when there is none.
+    [[nodiscard]] std::string PicturePath() const { return FromQt(Image1->Path()); }
+
+    // Brings the media panel up to date.
+    void ShowMedia() { stage_->ShowMedia(); }
 
     // Puts the texts of the string table into the window and its menus.
     void LoadCaptions();
@@ -111,6 +120,7 @@ private:
     void DoMNUDays(int month);
     void AfterMove(bool otherMonth);
     void SelectDay(int day);
+    void ViewChanged();
 
     void LabYrAdv_Click();
     void LabYrRtd_Click();
@@ -122,7 +132,11 @@ private:
     void MNU_WeekSt_Click(int index);
     void MNU_Lan_Click(int index);
     void MNU_Settings_Click();
+    void MNU_File_Click();
     void MNU_Full_Click();
+    void MNU_Half_Click();
+    void MNU_Media_Click();
+    void MNU_Picture_Click();
     void MNU_Repeat_Click();
     void MNU_About_Click();
 
@@ -134,6 +148,7 @@ private:
     bool firstDraw_ = true;
 
     QBoxLayout* layout_ = nullptr;
+    MediaStage* stage_ = nullptr;
     PictureBox* Image1 = nullptr;
     QWidget* card_ = nullptr;
     QGridLayout* grid_ = nullptr;
@@ -153,7 +168,9 @@ private:
     GameMenu* game_ = nullptr;
     QMenu* MNU_Help = nullptr;
     QAction* MNU_Full = nullptr;
+    QAction* MNU_Half = nullptr;
     QAction* MNU_Repeat = nullptr;
+    QAction* MNU_Save = nullptr;
     std::array<QAction*, kMonths> MNU_Mon{};
     std::array<QAction*, kMaxDays> MNU_Day{};
     std::array<QAction*, 3> MNU_WeekSt{};

@@ -82,11 +82,12 @@ FormCal::FormCal(const Rooms& rooms, Hooks hooks) : rooms_(rooms), hooks_(std::m
     layout_ = new QBoxLayout(QBoxLayout::LeftToRight, centre);
     layout_->setContentsMargins(look::kMargin, look::kMargin, look::kMargin, look::kMargin);
     layout_->setSpacing(look::kMargin);
-    Image1 = new PictureBox(centre);
-    Image1->setObjectName(QStringLiteral("Image1"));
+    stage_ = new MediaStage(centre, rooms_.Media, rooms_.Texts,
+                            {[this] { ViewChanged(); }, [this] { ShowNormal(); }});
+    Image1 = &stage_->Picture();
     Image1->Clicked = [this] { LabCurMth_Click(); };
     Image1->DoubleClicked = [this] { MNU_Settings_Click(); };
-    layout_->addWidget(Image1, 3);
+    layout_->addWidget(stage_, 3);
     card_ = new Card(centre);
     card_->setFocusPolicy(Qt::StrongFocus);
     layout_->addWidget(card_, 2);
@@ -194,8 +195,18 @@ void FormCal::BuildMenus() {
 void FormCal::BuildFileMenu() {
     MNU_Full = AddAction(MNU_File, QStringLiteral("MNU_Full"), [this] { MNU_Full_Click(); });
     MNU_Full->setCheckable(true);
+    MNU_Full->setShortcut(Qt::Key_F11);
+    MNU_Half = AddAction(MNU_File, QStringLiteral("MNU_Half"), [this] { MNU_Half_Click(); });
+    MNU_Half->setCheckable(true);
     MNU_Repeat = AddAction(MNU_File, QStringLiteral("MNU_Repeat"), [this] { MNU_Repeat_Click(); });
     MNU_Repeat->setCheckable(true);
+    MNU_File->addSeparator();
+    AddAction(MNU_File, QStringLiteral("MNU_Media"), [this] {
+        MNU_Media_Click();
+    })->setShortcut(QKeySequence::Open);
+    AddAction(MNU_File, QStringLiteral("MNU_Picture"), [this] { MNU_Picture_Click(); });
+    MNU_Save = AddAction(MNU_File, QStringLiteral("MNU_Save"), [this] { hooks_.SavePic(); });
+    MNU_Save->setShortcut(QKeySequence::Save);
     MNU_File->addSeparator();
     AddAction(MNU_File, QStringLiteral("MNU_Settings"), [this] {
         MNU_Settings_Click();
@@ -204,6 +215,9 @@ void FormCal::BuildFileMenu() {
     AddAction(MNU_File, QStringLiteral("MNU_Exit"), [this] {
         MNU_Exit_Click();
     })->setShortcut(QKeySequence::Quit);
+    connect(MNU_File, &QMenu::aboutToShow, this, [this] { MNU_File_Click(); });
+    // A shortcut must find its entry ready although the menu has not been opened.
+    connect(MNU_File, &QMenu::aboutToHide, this, [this] { MNU_Save->setEnabled(true); });
 }
 
 void FormCal::BuildMonthMenu() {
@@ -263,7 +277,11 @@ void FormCal::LoadCaptions() {
     };
     constexpr Entry kEntries[] = {
         {"MNU_Full", ProgramText::MenuFullScreen},
+        {"MNU_Half", ProgramText::MenuHalfScreen},
         {"MNU_Repeat", ProgramText::MenuRepeatMode},
+        {"MNU_Media", ProgramText::MenuMedia},
+        {"MNU_Picture", ProgramText::MenuMonthPicture},
+        {"MNU_Save", ProgramText::MenuSavePicture},
         {"MNU_Settings", ProgramText::MenuSettings},
         {"MNU_Exit", ProgramText::MenuExit},
         {"MNU_Today", ProgramText::MenuThisMonth},
@@ -291,6 +309,7 @@ void FormCal::LoadCaptions() {
                                   2 - static_cast<int>(i));
     }
     game_->LoadCaptions();
+    stage_->LoadCaptions();
     GiveAccessKeys();
     LoadTips();
     const LanguageChoices& choices = rooms_.Tongues.Choices();
@@ -326,6 +345,7 @@ void FormCal::LoadTips() {
     for (QToolButton* const arrow : {LabYrRtd, LabYrAdv}) {
         arrow->setToolTip(on ? arrow->accessibleName() : QString());
     }
+    stage_->LoadTips(on);
 }
 
 } // namespace kestrova

@@ -3,13 +3,14 @@
 
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
+#include "media/ui/PictureReader.h"
+#include "media/ui/WaitBeside.h"
 #include "platform/qt/QtText.h"
 #include "puzzle/ui/PuzzlePicture.h"
 #include "ui/Names.h"
 
 #include <QActionGroup>
 #include <QEvent>
-#include <QImageReader>
 
 #include <random>
 
@@ -93,11 +94,12 @@ void GameMenu::MNU_GmPicture_Click() {
 
 QImage GameMenu::Picture() const {
     const std::string path = pzPicture_.empty() ? month_() : pzPicture_;
-    QImageReader reader(ToQt(path));
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return PuzzlePicture(reader.read(), area_->size() * area_->devicePixelRatioF(),
-                         area_->palette().color(QPalette::Window));
+    const QSize area = area_->size() * area_->devicePixelRatioF();
+    const auto read = OutcomeBeside([path = ToQt(path), area] { return ReadPicture(path, area); });
+    if (!read || !read->Ok()) {
+        return {};
+    }
+    return PuzzlePicture(read->Value(), area, area_->palette().color(QPalette::Window));
 }
 
 void GameMenu::Start(PuzzleKind kind) {

@@ -21,9 +21,12 @@ constexpr int kTickMilliseconds = 500;
 
 } // namespace
 
-Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& link)
-    : dataFolder_(std::move(dataFolder)), mediaFile_(std::move(mediaFile)), link_(link),
+Program::Program(Orders orders, InstanceLink& link)
+    : dataFolder_(std::move(orders.DataFolder)), mediaFile_(std::move(orders.MediaFile)),
+      link_(link), mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
       texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
+      media_({mediaDevices_, files_, beeper_, texts_, settings_},
+             [this](const std::string& text) { Tell(text); }),
       pieces_(files_, PlainScratchWriter(files_), dataFolder_),
       languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
@@ -42,7 +45,8 @@ Program::Program(std::string dataFolder, std::string mediaFile, InstanceLink& li
                 [this] { KeepMenuChoices(); }, [this](int index) { ChangeLanguage(index); },
                 [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
-                [this] { HideSettings(); }, [this] { End(); }}) {
+                [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
+                [this] { End(); }}) {
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
     FillStartUp();
@@ -135,7 +139,12 @@ void Program::FillLastSteps() {
         ReadTodayFromClock();
         ShowToday(dates_);
     });
-    startUp_.Fill(StartUpStep::PictureSoundsCd, [this] { formCal_.GetPicture(); });
+    startUp_.Fill(StartUpStep::PictureSoundsCd, [this] {
+        formCal_.GetPicture();
+        media_.SoundIni();
+        media_.MusicIni();
+        formCal_.ShowMedia();
+    });
     startUp_.Fill(StartUpStep::Character, [this] {
         if (settings_.SpeechEnabled != 0 && !speech_.LoadCharacter()) {
             settings_.SpeechEnabled = 0;
@@ -260,10 +269,16 @@ void Program::FirstDrawn() {
     QTimer::singleShot(0, &formCal_, [this] {
         tick_.DoTimer();
         if (!mediaFile_.empty()) {
-            settings_.VideoFullScreen = 0;
-            settings_.VideoRepeat = 1;
-            media_.PlayReminder(mediaFile_);
+            (void)media_.PlayReminder(mediaFile_); // nothing else plays yet
         }
+    });
+}
+
+// Whoever has something to tell may be in the middle of a pass with more to deliver, which must not
+// wait for the user.
+void Program::Tell(const std::string& text) {
+    QTimer::singleShot(0, &formCal_, [this, text] {
+        dialogs_.Show({texts_.Text(texts::kMessengerTitle), text, DialogIcon::Critical});
     });
 }
 
@@ -284,7 +299,8 @@ void Program::OpenDiary(int day) {
             Diary::Rooms{dates_, texts_, settings_, store_, shared_, editor_, clock_, dialogs_},
             Diary::Hooks{
                 [this] { formCal_.Redraw(FormCal::kSameMonth); },
-                [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); }});
+                [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); },
+                [this] { ChPic({}); }, [this] { ChPic(dates_.PageDay); }});
     }
     diary_->OpenPage();
 }

@@ -6,13 +6,15 @@
 #include "app/ui/FormCal.h"
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
+#include "language/ProgramTexts.h"
 #include "language/ui/LanEditor.h"
 #include "mail/UnavailableMail.h"
-#include "media/UnavailableMedia.h"
+#include "media/MediaService.h"
 #include "phone/UnavailableCaller.h"
 #include "platform/InstanceLink.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
+#include "platform/qt/MediaModule.h"
 #include "platform/qt/QtBeeper.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventLoop.h"
@@ -38,9 +40,13 @@ enum class FirstShow { Shown, Hidden };
 // program has one of is a member here.
 class Program : private ClockWindows, private ReminderDetails, private SettingsActions {
 public:
-    // `dataFolder` is the program folder, ending in the separator; `mediaFile` is played when the
-    // window is first shown, unless it is empty.
-    Program(std::string dataFolder, std::string mediaFile, InstanceLink& link);
+    struct Orders {
+        std::string DataFolder; // the program folder, ending in the separator
+        std::string MediaFile;  // played when the window is first shown, unless it is empty
+        std::string CdDevice;   // a drive or the image of a disc; empty: the machine's own drive
+    };
+
+    Program(Orders orders, InstanceLink& link);
     ~Program() override;
 
     // Starts up, shows the main window unless it is to wait, and handles events until the program
@@ -65,6 +71,10 @@ private:
     void ShowTodayMonth();
     void FirstDrawn();
     void OpenDiary(int day);
+    void Tell(const std::string& text);
+    void ChPic(std::optional<int> day);
+    void SavePic();
+    void ShowPictureFault(ProgramText what, const Error& error, const std::string& path);
     void ReloadLanguage();
     void SettleChoices();
     void KeepMenuChoices();
@@ -129,11 +139,12 @@ private:
     UnavailableSpeaker speech_;
     UnavailableCaller phone_;
     UnavailableMail mail_;
-    UnavailableMedia media_;
+    MediaModule mediaDevices_;
 
     Selection dates_;
     StringTable texts_;
     AppSettings settings_;
+    MediaService media_;
     PieceFiles pieces_;
     AppSettings kept_; // as the user has last said "O.K.", with what the menus have changed since
     PictureTable pictures_;

@@ -101,6 +101,8 @@ void Diary::DrawMainPage() {
     }
     ComDataAcpt->setEnabled(false);
     ComInfo->setEnabled(false);
+    ComMonPic->setEnabled(true);
+    ComDayPic->setEnabled(true);
     ShowHeading();
 
     const auto year = rooms_.Dates.PageYearIndex();

@@ -44,6 +44,8 @@ public:
     struct Hooks {
         std::function<void()> Changed; // the diary has been changed here, or is another one now
         std::function<void(const std::string& text)> Speak; // reads a note aloud
+        std::function<void()> ChangeMonthPicture; // the user is to choose another one
+        std::function<void()> ChangeDayPicture;   // for the page date
     };
 
     Diary(QWidget* parent, const Rooms& rooms, Hooks hooks);
@@ -107,6 +109,8 @@ private:
     [[nodiscard]] int SlotOf(const DiaryEvent& event, int row) const;
     void ComDataAcpt_Click();
     void ComInfo_Click();
+    void ComMonPic_Click() { hooks_.ChangeMonthPicture(); }
+    void ComDayPic_Click() { hooks_.ChangeDayPicture(); }
     void TextTime_Change(QLineEdit& box, QString& accepted, int limit);
     void MNU_File_Click();
     void MNU_Delete_Click();
@@ -153,6 +157,8 @@ private:
     QComboBox* CombNet = nullptr;
     QPushButton* ComDataAcpt = nullptr;
     QPushButton* ComInfo = nullptr;
+    QPushButton* ComMonPic = nullptr;
+    QPushButton* ComDayPic = nullptr;
     Edit* edit_ = nullptr; // made on first use
     QMenu* MNU_File = nullptr;
     QAction* MNU_Insert = nullptr;

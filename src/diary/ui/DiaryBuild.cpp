@@ -175,6 +175,8 @@ void Diary::BuildButtons() {
     };
     ComDataAcpt = button("ComDataAcpt", &Diary::ComDataAcpt_Click);
     ComInfo = button("ComInfo", &Diary::ComInfo_Click);
+    ComMonPic = button("ComMonPic", &Diary::ComMonPic_Click);
+    ComDayPic = button("ComDayPic", &Diary::ComDayPic_Click);
     CombNet = new QComboBox(page_);
     CombNet->setObjectName(QStringLiteral("CombNet"));
     new SteadyList(CombNet); // a diary passed on the way would be loaded
@@ -184,7 +186,8 @@ void Diary::BuildButtons() {
          {static_cast<QWidget*>(TextTmm), static_cast<QWidget*>(TextMsg),
           static_cast<QWidget*>(CombRpt), static_cast<QWidget*>(CombRmd),
           static_cast<QWidget*>(ChkHide[0]), static_cast<QWidget*>(ComDataAcpt),
-          static_cast<QWidget*>(ComInfo), static_cast<QWidget*>(CombNet)}) {
+          static_cast<QWidget*>(ComInfo), static_cast<QWidget*>(ComMonPic),
+          static_cast<QWidget*>(ComDayPic), static_cast<QWidget*>(CombNet)}) {
         setTabOrder(previous, next);
         previous = next;
     }
@@ -260,13 +263,13 @@ void Diary::PlaceControls() {
     }
 }
 
-// Four of equal width stand side by side; two of them are the pictures' and not there yet.
+// Four of equal width stand side by side.
 void Diary::PlaceButtons() {
     constexpr int kPlaces = 4;
     constexpr int kGap = 100;
     const int width = (Twips(page_->width()) - 2 * kTimeLeft - (kPlaces - 1) * kGap) / kPlaces;
     int left = kTimeLeft;
-    for (QPushButton* const button : {ComDataAcpt, ComInfo}) {
+    for (QPushButton* const button : {ComDataAcpt, ComInfo, ComMonPic, ComDayPic}) {
         button->setGeometry(Pixels(left), Pixels(kButtonsTop), Pixels(width),
                             Pixels(kButtonHeight));
         left += width + kGap;
@@ -290,7 +293,7 @@ void Diary::FitTexts() {
             label->setFont(FittingFont(font(), label->text(), label->width()));
         }
     }
-    for (QPushButton* const button : {ComDataAcpt, ComInfo}) {
+    for (QPushButton* const button : {ComDataAcpt, ComInfo, ComMonPic, ComDayPic}) {
         button->setFont(FittingFont(font(), button->text(), button->width() - 2 * kButtonPadding));
     }
 }

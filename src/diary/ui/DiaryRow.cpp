@@ -115,6 +115,8 @@ void Diary::LabEvent_DblClick(int index) {
     }
     ComDataAcpt->setEnabled(true);
     ComInfo->setEnabled(true);
+    ComMonPic->setEnabled(false);
+    ComDayPic->setEnabled(false);
     TextMsg->setFocus();
     TextMsg->end(false);
 }

@@ -14,14 +14,15 @@ namespace kestrova {
 
 namespace {
 
-// Copies what is not there yet; a file that is there is the user's and stays. A file that cannot be
-// copied is missing as it would be from a damaged installation.
+// Copies what is not there yet, but for the program and its parts, which are found beside it; a
+// file that is there is the user's and stays. A file that cannot be copied is missing as it would
+// be from a damaged installation.
 void Seed(const QString& from, const QString& to) {
     QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString source = files.next();
         const QString target = to + QDir(from).relativeFilePath(source);
-        if (source == QCoreApplication::applicationFilePath() || QFileInfo::exists(target)) {
+        if (QFileInfo(source).isExecutable() || QFileInfo::exists(target)) {
             continue;
         }
         QDir().mkpath(QFileInfo(target).path());

@@ -86,6 +86,20 @@ std::optional<std::string> QtDialogs::OpenFile(const std::string& folder,
     return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
 }
 
+std::optional<std::string> QtDialogs::SaveFile(const std::string& folder,
+                                               const std::string& filter) {
+    QFileDialog dialog(QApplication::activeWindow(), QString(), ToQt(folder), FilterOf(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // With a suffix of its own the dialog asks about the file that will be written, not about the
+    // name without it.
+    const QString endings = ToQt(filter).section(QLatin1Char('|'), 1);
+    dialog.setDefaultSuffix(endings.section(QLatin1Char(';'), 0, 0).remove(QLatin1String("*.")));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return FromQt(dialog.selectedFiles().first());
+}
+
 std::optional<FontChoice> QtDialogs::ChooseFont(const FontChoice& offered) {
     QFont font(ToQt(offered.Family));
     font.setPointSizeF(offered.Size);

@@ -14,6 +14,8 @@ public:
                                      const std::string& offered) override;
     std::optional<std::string> OpenFile(const std::string& folder,
                                         const std::string& filter) override;
+    std::optional<std::string> SaveFile(const std::string& folder,
+                                        const std::string& filter) override;
     std::optional<FontChoice> ChooseFont(const FontChoice& offered) override;
 };
 

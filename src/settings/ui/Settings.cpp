@@ -213,6 +213,13 @@ void Settings::VSColour_Change(std::int16_t Colour::*component, int value) {
 // Whether the user has chosen a sound for the chime; one that cannot be played is told, and one
 // whose path the settings file could not hold: its fields end at a comma.
 bool Settings::TakeChimeFile() {
+    if (!rooms_.Actions.SoundWorks()) {
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
+                           rooms_.Texts.Text(texts::kNoWaveSounds) + "\n" +
+                               rooms_.Texts.Text(texts::kAtTheMoment),
+                           DialogIcon::None});
+        return false;
+    }
     const std::string& now = rooms_.Record.ChimeSound;
     const auto path = rooms_.Boxes.OpenFile(now.empty() ? kSoundFolder : now,
                                             TextOf(rooms_.Texts, ProgramText::WaveFilter));

@@ -2,7 +2,8 @@
 #include "app/ui/FormCal.h"
 
 #include "diary/DiaryScene.h"
-#include "media/UnavailableMedia.h"
+#include "fakes/CountingBeeper.h"
+#include "fakes/FakeMedia.h"
 #include "platform/qt/QtText.h"
 #include "speech/UnavailableSpeaker.h"
 
@@ -35,7 +36,11 @@ struct MonthScene : DiaryScene {
     PictureTable Pictures;
     std::string Folder = kFolder;
     UnavailableSpeaker Speech;
-    UnavailableMedia Media;
+    FakeMediaDevices Devices;
+    CountingBeeper Bell;
+    std::vector<std::string> Told;
+    MediaService Media{{Devices, Files, Bell, Texts, Settings},
+                       [this](const std::string& text) { Told.push_back(text); }};
     RecordingShell Desktop;
     PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     std::vector<int> Opened;
@@ -43,13 +48,15 @@ struct MonthScene : DiaryScene {
     int SettingsSaved = 0;
     int FirstDrawn = 0;
     int Countdown = 0;
+    int PicturesAsked = 0;
+    int PicturesSaved = 0;
     int Quits = 0;
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces},
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
                     [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
                     [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; }, [] {},
-                    [this] { ++Quits; }}};
+                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [this] { ++Quits; }}};
 
     void Show() {
         Window.LoadCaptions();

@@ -6,10 +6,11 @@
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
 #include "diary/ui/SlimComboBox.h"
+#include "fakes/CountingBeeper.h"
+#include "fakes/FakeMedia.h"
 #include "language/ItemLists.h"
 #include "language/LanguageFile.h"
 #include "language/ui/LanEditor.h"
-#include "media/UnavailableMedia.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/qt/QtText.h"
 #include "settings/ui/Settings.h"
@@ -40,6 +41,7 @@ struct NoActions : SettingsActions {
     bool LoadCharacter() override { return true; }
     void Talk(const std::string& /*text*/) override {}
     std::optional<std::string> FindModem() override { return std::nullopt; }
+    bool SoundWorks() const override { return true; }
     void MakeSound(const std::string& /*path*/) override {}
     void ChangeYear() override {}
     void FormatData() override {}
@@ -65,7 +67,9 @@ struct Windows : DiaryScene {
     PictureTable Pictures;
     std::string Folder = kFolder;
     UnavailableSpeaker Speech;
-    UnavailableMedia Media;
+    FakeMediaDevices Devices;
+    CountingBeeper Bell;
+    MediaService Media{{Devices, Files, Bell, Texts, Settings}, [](const std::string&) {}};
     NoShell Desktop;
     PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     SetDetails Details;
@@ -148,7 +152,8 @@ TEST_P(LanguageRenderTest, TheMonth) {
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
                    all.Pieces},
-                  {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}});
+                  {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
+                   [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);
@@ -169,7 +174,7 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     Diary page(nullptr,
                {all.Dates, all.Texts, all.Settings, all.Store, all.Shared, all.Editor, all.Clock,
                 all.Boxes},
-               {[] {}, [](const std::string&) {}});
+               {[] {}, [](const std::string&) {}, [] {}, [] {}});
     page.OpenPage();
     ExpectNothingIsCut(page);
     QTest::mouseClick(page.findChild<QLabel*>(QStringLiteral("LabEvent(2)")), Qt::LeftButton);

@@ -39,10 +39,12 @@ struct PageScene : DiaryScene {
     SharedDiaries Shared{{Files, Clock, OnDisc, Texts, Probe}};
     int Changes = 0;
     std::vector<std::string> Spoken;
-    Diary Window{
-        nullptr,
-        {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
-        {[this] { ++Changes; }, [this](const std::string& text) { Spoken.push_back(text); }}};
+    std::string PicturesAsked; // M and D
+    Diary Window{nullptr,
+                 {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
+                 {[this] { ++Changes; },
+                  [this](const std::string& text) { Spoken.push_back(text); },
+                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; }}};
 
     PageScene() {
         Window.OpenPage();

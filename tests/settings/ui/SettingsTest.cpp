@@ -24,6 +24,7 @@ struct AskedActions : SettingsActions {
     std::vector<std::string> Voices = {"merlin.acs", "robby.acs"};
     bool CharacterLoads = true;
     bool Saves = true;
+    bool Sounds = true;
     std::optional<std::string> Modem;
 
     void DoColor() override { Asked.emplace_back("colour"); }
@@ -37,6 +38,7 @@ struct AskedActions : SettingsActions {
     bool LoadCharacter() override { return CharacterLoads; }
     void Talk(const std::string& text) override { Asked.push_back("talk " + text); }
     std::optional<std::string> FindModem() override { return Modem; }
+    bool SoundWorks() const override { return Sounds; }
     void MakeSound(const std::string& path) override { Asked.push_back("sound " + path); }
     void ChangeYear() override { Asked.emplace_back("year"); }
     void FormatData() override { Asked.emplace_back("format"); }

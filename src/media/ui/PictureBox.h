@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "media/ui/PictureThreads.h"
+
+#include <QDateTime>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
@@ -19,12 +22,18 @@ class PictureBox : public QWidget {
 public:
     explicit PictureBox(QWidget* parent);
 
-    // An empty path leaves the picture as it is.
+    // Shows the file, unless it is the one on show and has not changed on the disc since. An empty
+    // path leaves the picture as it is.
     void SetPicture(const QString& path);
+
+    // Reads the file once more, whatever its date says.
+    void Reload();
+
     void SetFit(PictureFit fit);
 
-    // Whether a picture is shown.
+    // Whether a picture is shown, and the file that it is from.
     [[nodiscard]] bool HasPicture() const { return !image_.isNull(); }
+    [[nodiscard]] const QString& Path() const { return shownPath_; }
 
     std::function<void()> Clicked;
     std::function<void()> DoubleClicked;
@@ -36,16 +45,27 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    // What tells a file that has been replaced from the one before it.
+    struct Mark {
+        QDateTime Modified;
+        qint64 Size = 0;
+
+        bool operator==(const Mark&) const = default;
+    };
+
+    static Mark MarkOf(const QString& path);
     void Load();
     [[nodiscard]] QRectF Target() const;
     [[nodiscard]] QRectF Source(const QRectF& target) const;
 
-    QString path_;
+    QString path_; // that is wanted
+    Mark mark_;    // of that file, when it was asked for
+    QString shownPath_;
     QImage image_;
     PictureFit fit_ = PictureFit::Fill;
     QTimer reload_;
     bool painted_ = false;
-    quint64 wanted_ = 0; // number of the newest load; older ones come too late
+    PictureThreads threads_;
 };
 
 } // namespace kestrova

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/ui/PictureBox.h"
+#include "media/ui/PictureBox.h"
 
 #include "ui/Look.h"
 
-#include <QImageReader>
+#include <QFileInfo>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPointer>
-#include <QThreadPool>
 
 #include <algorithm>
 
@@ -17,40 +15,49 @@ namespace kestrova {
 namespace {
 
 constexpr int kReloadPause = 200;     // milliseconds after the last resize
+constexpr int kRetryPause = 1000;     // milliseconds, when too many discs do not answer
 constexpr double kMostStretch = 1.12; // beyond that a picture that fills its area is cut instead
-
-// Reads a picture no larger than it will be shown, which for photographs saves most of the work.
-QImage ReadPicture(const QString& path, const QSize& area) {
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize whole = reader.size();
-    if (whole.isValid()) {
-        const QSize shown = whole.scaled(area, Qt::KeepAspectRatioByExpanding);
-        if (shown.width() < whole.width()) {
-            reader.setScaledSize(shown);
-        }
-    }
-    QImage image = reader.read();
-    return image.isNull() ? image : image.convertToFormat(QImage::Format_RGB32);
-}
 
 } // namespace
 
-PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+PictureBox::PictureBox(QWidget* parent)
+    : QWidget(parent), threads_(*this, [this](const QString& path, const Result<QImage>& picture) {
+          if (picture) {
+              image_ = picture.Value();
+              shownPath_ = path;
+              update();
+          }
+      }) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(240, 180);
     reload_.setSingleShot(true);
     connect(&reload_, &QTimer::timeout, this, [this] { Load(); });
 }
 
+PictureBox::Mark PictureBox::MarkOf(const QString& path) {
+    const QFileInfo file(path);
+    return {file.lastModified(), file.size()};
+}
+
 void PictureBox::SetPicture(const QString& path) {
-    if (path.isEmpty() || path == path_) {
+    if (path.isEmpty()) {
+        return;
+    }
+    const Mark mark = MarkOf(path);
+    if (path == path_ && mark == mark_) {
         return;
     }
     path_ = path;
+    mark_ = mark;
     // Before the window is laid out nobody knows how large the picture will be; and reading one
     // must not take the processor from the first sight of the month.
+    if (painted_) {
+        Load();
+    }
+}
+
+void PictureBox::Reload() {
+    mark_ = MarkOf(path_);
     if (painted_) {
         Load();
     }
@@ -62,22 +69,9 @@ void PictureBox::SetFit(PictureFit fit) {
 }
 
 void PictureBox::Load() {
-    if (path_.isEmpty()) {
-        return;
+    if (!path_.isEmpty() && !threads_.Begin(path_, size() * devicePixelRatioF())) {
+        reload_.start(kRetryPause);
     }
-    const quint64 number = ++wanted_;
-    const QSize area = size() * devicePixelRatioF();
-    QThreadPool::globalInstance()->start(
-        [box = QPointer<PictureBox>(this), path = path_, area, number] {
-            QImage image = ReadPicture(path, area);
-            // Back on the window's thread; a box that has gone meanwhile is not called.
-            QMetaObject::invokeMethod(qApp, [box, image = std::move(image), number] {
-                if (box && box->wanted_ == number && !image.isNull()) {
-                    box->image_ = image;
-                    box->update();
-                }
-            });
-        });
 }
 
 QRectF PictureBox::Target() const {
@@ -118,10 +112,10 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     const QRectF target = Target();
     QPainterPath card;
     card.addRoundedRect(target, look::kRadius, look::kRadius);
-    if (image_.isNull()) {
+    // Also under a picture with holes in it.
+    if (image_.isNull() || image_.hasAlphaChannel()) {
         painter.fillPath(card, look::Between(palette().color(QPalette::Window),
                                              palette().color(QPalette::WindowText), 0.08));
-        return;
     }
     painter.setClipPath(card);
     painter.drawImage(target, image_, Source(target));
