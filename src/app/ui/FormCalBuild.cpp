@@ -195,7 +195,6 @@ void FormCal::BuildMenus() {
 void FormCal::BuildFileMenu() {
     MNU_Full = AddAction(MNU_File, QStringLiteral("MNU_Full"), [this] { MNU_Full_Click(); });
     MNU_Full->setCheckable(true);
-    MNU_Full->setShortcut(Qt::Key_F11);
     MNU_Half = AddAction(MNU_File, QStringLiteral("MNU_Half"), [this] { MNU_Half_Click(); });
     MNU_Half->setCheckable(true);
     MNU_Repeat = AddAction(MNU_File, QStringLiteral("MNU_Repeat"), [this] { MNU_Repeat_Click(); });

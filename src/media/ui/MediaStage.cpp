@@ -36,6 +36,7 @@ public:
         dark.setColor(QPalette::Window, Qt::black);
         dark.setColor(QPalette::WindowText, Qt::white);
         setPalette(dark);
+        setFocusPolicy(Qt::StrongFocus);
         BareColumn(this);
     }
 
@@ -119,6 +120,7 @@ void MediaStage::ShowFull(bool full) {
         bar_->setAutoFillBackground(true);
         full_->showFullScreen();
         full_->activateWindow();
+        full_->setFocus(); // the keys are the film's, not the panel's
         ShowControls();
     } else {
         idle_.stop();
