@@ -24,7 +24,8 @@ namespace {
 constexpr QSize kButtonSize{28, 26};
 constexpr int kLeastWidthOfARow = 420; // narrower than this, the bar has two
 constexpr QColor kOnColour{0, 255, 0};
-constexpr int kLamp = 10;      // pixels across
+constexpr int kLamp = 14;      // pixels across
+constexpr double kHole = 2.5;  // the radius of the hole in it
 constexpr int kPerSecond = 10; // steps of the slider
 
 // The signs on the buttons, in a square from -5 to 5.
@@ -81,7 +82,7 @@ private:
     QPainterPath sign_;
 };
 
-// A check box that is a lamp: green while the CD player is on.
+// A check box that is a disc: green while the CD player is on.
 class LampBox : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
@@ -111,6 +112,8 @@ protected:
         painter.setPen(QPen(look::Faded(text, 0.6), 1));
         painter.setBrush(isChecked() ? kOnColour : look::Faded(text, 0.15));
         painter.drawEllipse(lamp);
+        painter.setBrush(palette().color(QPalette::Window));
+        painter.drawEllipse(lamp.center(), kHole, kHole);
         painter.setPen(text);
         painter.drawText(rect().adjusted(kLamp + look::kSpacing, 0, 0, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, this->text());
