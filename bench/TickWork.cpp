@@ -5,9 +5,9 @@
 #include "ScratchFolder.h"
 
 #include "diary/DiaryStore.h"
-#include "mail/UnavailableMail.h"
+#include "mail/ReminderMail.h"
 #include "media/MediaPanel.h"
-#include "phone/UnavailableCaller.h"
+#include "phone/PhoneCaller.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
 #include "reminders/ClockTick.h"
@@ -50,6 +50,20 @@ struct NoDialogs : Dialogs {
     std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
         return std::nullopt;
     }
+};
+
+struct NoCaller : PhoneCaller {
+    bool ModemPresent() override { return false; }
+    ModemState Modem() const override { return ModemState::Off; }
+    bool SendMessage(const std::string& /*dialString*/, const std::string& /*message*/) override {
+        return false;
+    }
+    void Delay(int /*seconds*/) override {}
+};
+
+struct NoMail : ReminderMail {
+    bool MailFailed() const override { return true; }
+    MailStatus SendMail(const DiaryEvent& /*event*/) override { return MailStatus::TryLater; }
 };
 
 struct NoMedia : MediaPanel {
@@ -103,8 +117,8 @@ struct Running {
     FolderProbe Probe{Folder, [](const std::string& /*other*/) { return false; }};
     DiaryStore Store{OnDisc, Boxes, Texts, Probe, [] {}};
     UnavailableSpeaker Speech;
-    UnavailableCaller Phone;
-    UnavailableMail Mail;
+    NoCaller Phone;
+    NoMail Mail;
     NoMedia Media;
     ReminderReview Review{{Store, Dates, Texts, Settings, Speech, Phone, Mail, Media, Loop, Bell}};
     ClockTick Tick{

@@ -5,6 +5,7 @@
 #include "diary/NoteName.h"
 #include "diary/SaveJournal.h"
 #include "language/LanguageFile.h"
+#include "mail/MailAccount.h"
 #include "puzzle/Bitmap.h"
 #include "settings/SettingsFile.h"
 #include "text/Lines.h"
@@ -119,6 +120,17 @@ void WriteNetUsers(const std::filesystem::path& root) {
     seeds.Write("note", "two\r\nlines\r\n\r\n");
 }
 
+void WriteMail(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Mail");
+    seeds.Write("account", kestrova::WriteMailAccount({"smtp.example.org",
+                                                       587,
+                                                       kestrova::MailSecurity::StartTls,
+                                                       "jane",
+                                                       {"Jane", "jane@example.org"}}));
+    seeds.Write("address", "jane.doe+x@mail.example.org");
+    seeds.Write("text", "\xF0\x9F\x98\x80 one\r\n.\r\n\r\nTo: nobody@example.org\ntwo");
+}
+
 void WriteTexts(const std::filesystem::path& root) {
     const SeedFolder seeds(root, "Text");
     seeds.Write("lines", "\xEF\xBB\xBFone\r\ntwo\nthree\r\r\n\nfour");
@@ -144,6 +156,73 @@ void WriteBitmaps(const std::filesystem::path& root) {
     seeds.Write("large", "\x09" + bitmap(41, 20, 4, 3));
 }
 
+// Little-endian words, two bytes each.
+std::string Words(std::initializer_list<int> values) {
+    std::string bytes;
+    for (const int value : values) {
+        bytes += static_cast<char>(value & 0xFF);
+        bytes += static_cast<char>(value >> 8 & 0xFF);
+    }
+    return bytes;
+}
+
+// An order of a metafile.
+std::string Order(int function, const std::string& fields) {
+    return Words({static_cast<int>(fields.size() / 2) + 3, 0, function}) + fields;
+}
+
+void WriteMetafiles(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Wmf");
+    const std::string header = Words({1, 9, 0x300, 0, 0, 9, 0, 0, 0});
+    const std::string frame = Words({0xCDD7, 0x9AC6, 0, 0, 0, 640, 480, 96, 0, 0, 0});
+    const std::string window = Order(0x020B, Words({0, 0})) + Order(0x020C, Words({480, 640}));
+    const std::string dib = Words({40, 0, 1, 0, 1, 0, 1, 24}) + std::string(24, '\0') + "abcd";
+    const std::string palette = Words({40, 0, 2, 0, 1, 0, 1, 8,    1, 0, 0,    0,      0,
+                                       0,  0, 0, 2, 0, 0, 0, 0xFF, 0, 0, 0xFF, 0x0102, 0x0001});
+    const std::string tools = Order(0x02FA, Words({1, 3, 0, 0xFF, 0})) + Order(0x012D, Words({0})) +
+                              Order(0x02FC, Words({2, 0xFF, 0, 3})) + Order(0x012D, Words({1})) +
+                              Order(0x0142, Words({5, 0}) + dib) + Order(0x012D, Words({2})) +
+                              Order(0x02FB, Words({-20, 0, 450, 0, 700, 1, 0, 0, 0}) + "Sans") +
+                              Order(0x012D, Words({3}));
+    const std::string shapes =
+        Order(0x041B, Words({40, 50, 10, 20})) + Order(0x0418, Words({40, 50, 10, 20})) +
+        Order(0x061C, Words({5, 5, 40, 50, 10, 20})) + Order(0x0324, Words({3, 1, 2, 3, 4, 5, 6})) +
+        Order(0x0538, Words({2, 2, 2, 1, 2, 3, 4, 5, 6, 7, 8})) +
+        Order(0x0325, Words({2, 1, 2, 3, 4})) + Order(0x0214, Words({1, 2})) +
+        Order(0x0213, Words({3, 4})) + Order(0x0817, Words({1, 2, 3, 4, 40, 50, 10, 20})) +
+        Order(0x081A, Words({1, 2, 3, 4, 40, 50, 10, 20}));
+    const std::string texts =
+        Order(0x012E, Words({25})) + Order(0x0521, Words({2}) + "ab" + Words({1, 2})) +
+        Order(0x0A32, Words({1, 2, 2, 6, 0, 0, 50, 50}) + "ab" + Words({9, 9}));
+    const std::string images = Order(0x0B41, Words({0x20, 0xCC, 1, 1, 0, 0, 9, 9, 0, 0}) + dib) +
+                               Order(0x0940, Words({0xC6, 0x88, 0, 0, 1, 2, 0, 0}) + palette) +
+                               Order(0x0F43, Words({0x86, 0xEE, 0, 1, 1, 0, 0, 9, 9, 0, 0}) + dib) +
+                               Order(0x061D, Words({0x21, 0xF0, 10, 10, 0, 0}));
+    const std::string state = Order(0x001E, "") + Order(0x0416, Words({40, 50, 10, 20})) +
+                              Order(0x0415, Words({20, 20, 10, 20})) +
+                              Order(0x0220, Words({1, 1})) + Order(0x0410, Words({2, 1, 2, 1})) +
+                              Order(0x0104, Words({7})) + Order(0x0127, Words({-1}));
+    seeds.Write("shapes", frame + header + window + tools + shapes);
+    seeds.Write("texts", header + window + tools + texts);
+    seeds.Write("images", header + window + images + state + shapes);
+    seeds.Write("bare", header + shapes);
+}
+
+void WriteModemLists(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "ModemList");
+    const std::string list = "\"Box\",2\r\n\"Generic IS-101 Voice Modem\",1\r\n"
+                             "\"End of List\",0\r\n";
+    std::string block = "AT+FCLASS=8\r\nAT+VSM=131,8000\r\n";
+    for (int number = 3; number < 22; ++number) {
+        block += kLineEnd;
+    }
+    block += "AT+VTX\r\nEnd of Index\r\n";
+    seeds.Write("list", list + block + "AT#VSR=7200\nEnd of Index\n");
+    seeds.Write("cut", list + "AT\"&D0\",1");
+    seeds.Write("unended", "Box , 32767\n\"Box\n,\n\"a\"\"b\",-1\n");
+    seeds.Write("answer", "AT+FMM?\r\r\nBox\r\n\r\nOK\r\n");
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -157,7 +236,10 @@ int main(int argc, char* argv[]) {
     WriteDiarySeeds(root);
     WriteJournals(root);
     WriteNetUsers(root);
+    WriteMail(root);
     WriteTexts(root);
     WriteBitmaps(root);
+    WriteModemLists(root);
+    WriteMetafiles(root);
     return 0;
 }

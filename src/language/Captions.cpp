@@ -25,7 +25,28 @@ constexpr CaptionRow kCaptions[] = {
 
     {"ScreenReminder", "ComClear", {Buttons, 4}},
 
+    {"Modem", "ComTestCall", {Buttons, 6}},
+    {"Modem", "ComSave", {Buttons, 7}},
+    {"Modem", "OptionSpeak", {Buttons, 40}},
+    {"Modem", "OptionBeep", {Buttons, 41}},
+    {"Modem", "LabPhoneNumber", {Labels, 10}},
+    {"Modem", "LabRpt", {Labels, 11}},
+    {"Modem", "LabMins", {Labels, 12}},
+
     {"Edit", "Label1", {Labels, 6}},
+
+    {"Email", "LabName", {Labels, 7}},
+    {"Email", "LabMail(0)", {Labels, 8}},
+    {"Email", "LabMail(1)", {Labels, 8}},
+    {"Email", "LabMail(2)", {Labels, 8}},
+    {"Email", "LabMail(3)", {Labels, 8}},
+    {"Email", "LabMail(4)", {Labels, 8}},
+    {"Email", "LabNotice", {Labels, 9}},
+    {"Email", "ComSave", {Buttons, 10}},
+    {"Email", "ComCancel", {Buttons, 9}},
+
+    {"MailLogOn", "ComSave", {Buttons, 10}},
+    {"MailLogOn", "ComCancel", {Buttons, 9}},
 
     {"LanEditor", "ComFont", {Buttons, 8}},
     {"LanEditor", "ComCancel", {Buttons, 9}},
@@ -78,6 +99,8 @@ constexpr CaptionRow kTips[] = {
     {"FormCal", "LabDays(5)", {Tips, 3}},    {"FormCal", "LabDays(6)", {Tips, 3}},
 
     {"Edit", "Label1", {Tips, 22}},
+
+    {"Modem", "TextRpt", {Tips, 8}},
 
     {"Settings", "CombLan", {Tips, 5}},      {"Settings", "CombChr", {Tips, 6}},
     {"Settings", "CombCom", {Tips, 7}},      {"Settings", "TextRpt", {Tips, 8}},

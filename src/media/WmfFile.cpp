@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::uint32_t kPlaceableKey = 0x9AC6CDD7;
 constexpr std::size_t kPlaceableSize = 22;
-constexpr unsigned kHeaderWords = 9;
+constexpr std::size_t kHeaderWords = 9;
 constexpr std::size_t kRecordHeadSize = 6;
 
 bool IsPlaceable(std::string_view bytes) {

@@ -41,11 +41,11 @@ public:
     // Silent, and the drive free for others, when this returns.
     virtual void Close() = 0;
 
-    virtual void Prev() = 0; // the track before; the beginning of this one when it has played 3 s
-    virtual void Next() = 0;
+    virtual void Prev() = 0;  // the track before; the beginning of this one when it has played 3 s
+    virtual void Next() = 0;  // nothing when there is none
     virtual void Play() = 0;  // goes on where it was paused
     virtual void Pause() = 0; // and on again
-    virtual void Stop() = 0;
+    virtual void Stop() = 0;  // back to the beginning of the first track, as at the disc's end
     virtual void Eject() = 0; // closes, then opens the tray
 
     [[nodiscard]] virtual CdState State() const = 0;

@@ -13,8 +13,8 @@ enum class MediaKind {
 };
 
 enum class MediaEnd {
-    Finished, // played to its end
-    Failed    // cannot be opened or decoded
+    Finished, // played to its end, or to where a file that was cut off breaks off
+    Failed    // cannot be opened, or nothing in it can be played
 };
 
 // Where the pixels of a video picture go: rows from the top, four bytes a pixel (blue, green, red,

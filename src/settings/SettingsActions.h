@@ -35,6 +35,9 @@ public:
     // Speaks a sample with the character, pitch and speed of the settings.
     virtual void Talk(const std::string& text) = 0;
 
+    // A port for the modem has been chosen.
+    virtual void PortChosen() = 0;
+
     // Looks for a modem on the port that the settings name. Its description; nothing when none
     // answers. Takes seconds, handling events.
     virtual std::optional<std::string> FindModem() = 0;

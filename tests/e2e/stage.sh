@@ -135,12 +135,24 @@ build_house() {
     cp -R "${2:-$built}/." "$house/program"
 }
 
-# Starts a program in the house, with arguments. $program is its process id.
+# Starts a program in the house. $program is its process id.
 start() {
+    start_by_real_clock LD_PRELOAD="$clock_library" FAKETIME_TIMESTAMP_FILE="$stage/clock" \
+        FAKETIME_NO_CACHE=1 FAKETIME_DONT_FAKE_MONOTONIC=1 NO_FAKE_STAT=1
+}
+
+# The same by the machine's own clock: `start_by_real_clock [ARGUMENT...] [NAME=VALUE...]`.
+start_by_real_clock() {
+    local word settings=() arguments=()
+    for word in "$@"; do
+        if [[ $word =~ ^[A-Z_]+= ]]; then
+            settings+=("$word")
+        else
+            arguments+=("$word")
+        fi
+    done
     env HOME="$house/home" XDG_RUNTIME_DIR="$house/runtime" XDG_DATA_HOME="$house/home/data" \
-        LD_PRELOAD="$clock_library" FAKETIME_TIMESTAMP_FILE="$stage/clock" FAKETIME_NO_CACHE=1 \
-        FAKETIME_DONT_FAKE_MONOTONIC=1 NO_FAKE_STAT=1 \
-        "$house/program/Kestrova" "$@" >>"$house/messages" 2>&1 &
+        "${settings[@]}" "$house/program/Kestrova" "${arguments[@]}" >>"$house/messages" 2>&1 &
     program=$!
     programs+=("$program")
 }
@@ -178,7 +190,7 @@ start_first_time() {
 
 # Starts the program where it has run before: it has no message, at most a reminder.
 start_again() {
-    start "$@"
+    start
     await_main_window
     not sees_box || fail "a start like any other shows a message"
 }

@@ -62,6 +62,8 @@ public:
         std::function<void()> GotFocus;
         std::function<void()> ChPic;   // the user is to choose another picture for the month
         std::function<void()> SavePic; // and where the one on show is kept as a bitmap
+        std::function<void()> TellAFriend;
+        std::function<void()> OpenMailAccount;
         std::function<void()> Quit;
     };
 

@@ -189,6 +189,8 @@ void FormCal::BuildMenus() {
     AddAction(MNU_Help, QStringLiteral("MNU_Manual"), [this] {
         LabHelp_Click();
     })->setShortcut(QKeySequence::HelpContents);
+    AddAction(MNU_Help, QStringLiteral("MNU_TellFriend"), [this] { hooks_.TellAFriend(); });
+    AddAction(MNU_Help, QStringLiteral("MNU_MailAccount"), [this] { hooks_.OpenMailAccount(); });
     AddAction(MNU_Help, QStringLiteral("MNU_About"), [this] { MNU_About_Click(); });
 }
 
@@ -288,6 +290,8 @@ void FormCal::LoadCaptions() {
         {"MNU_Next", ProgramText::MenuNextMonth},
         {"MNU_Year", ProgramText::MenuYear},
         {"MNU_Manual", ProgramText::MenuManual},
+        {"MNU_TellFriend", ProgramText::MenuTellFriend},
+        {"MNU_MailAccount", ProgramText::MenuMailAccount},
         {"MNU_About", ProgramText::MenuAbout},
     };
     for (const Entry& entry : kEntries) {

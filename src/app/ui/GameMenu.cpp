@@ -104,8 +104,7 @@ QImage GameMenu::Picture() const {
 
 void GameMenu::Start(PuzzleKind kind) {
     if (!view_) {
-        view_ =
-            std::make_unique<PuzzleView>(rooms_.Files, PuzzleRandom(std::random_device{}()), area_);
+        view_ = new PuzzleView(rooms_.Files, PuzzleRandom(std::random_device{}()), area_);
         view_->Finished = [this] {
             ShowState();
             area_->window()->setFocus();

@@ -11,9 +11,9 @@
 #include <QAction>
 #include <QImage>
 #include <QMenu>
+#include <QPointer>
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace kestrova {
@@ -55,7 +55,7 @@ private:
     Rooms rooms_;
     QWidget* area_;
     std::function<std::string()> month_;
-    std::unique_ptr<PuzzleView> view_; // made with the first game
+    QPointer<PuzzleView> view_; // made with the first game; the picture it lies on owns it
     int side_ = kPuzzleSizes.front().Side();
     std::string pzPicture_; // PzPicture: the user's own picture; empty for the month's
 

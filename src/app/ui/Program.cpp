@@ -4,6 +4,7 @@
 #include "app/Navigation.h"
 #include "diary/RollOver.h"
 #include "language/Texts.h"
+#include "platform/posix/ComPorts.h"
 #include "platform/posix/FolderAnswers.h"
 #include "platform/qt/DataFolder.h"
 #include "settings/ListChoices.h"
@@ -23,10 +24,16 @@ constexpr int kTickMilliseconds = 500;
 
 Program::Program(Orders orders, InstanceLink& link)
     : dataFolder_(std::move(orders.DataFolder)), mediaFile_(std::move(orders.MediaFile)),
-      link_(link), mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
-      texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
-      media_({mediaDevices_, files_, beeper_, texts_, settings_},
-             [this](const std::string& text) { Tell(text); }),
+      link_(link),
+      serial_([this](int number) { return ComPort(number, dataFolder_, SerialDevices()); }),
+      phone_({serial_, loop_, speech_, files_, dialogs_, texts_, settings_, dataFolder_,
+              [this]() -> CallScreen& { return ModemWindow(); }}),
+      mailModule_(MailModule::ShippedPath()),
+      mail_({mailModule_, mailModule_, files_, clock_, loop_, dialogs_, texts_},
+            dataFolder_ + "Mail.dat"),
+      mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)), texts_(MsgDefaults()),
+      settings_(FirstSettings(texts_)), media_({mediaDevices_, files_, beeper_, texts_, settings_},
+                                               [this](const std::string& text) { Tell(text); }),
       pieces_(files_, PlainScratchWriter(files_), dataFolder_),
       languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
@@ -36,7 +43,8 @@ Program::Program(Orders orders, InstanceLink& link)
       shared_({files_, clock_, diaryFiles_, texts_, probe_}),
       yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
       editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
-      review_({store_, dates_, texts_, settings_, speech_, phone_, mail_, media_, loop_, beeper_}),
+      review_({store_, dates_, texts_, settings_, speech_, phone_, mail_.Reminders(), media_, loop_,
+               beeper_}),
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
@@ -46,6 +54,7 @@ Program::Program(Orders orders, InstanceLink& link)
                 [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
                 [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
+                [this] { mail_.TellAFriend(); }, [this] { mail_.OpenAccount(); },
                 [this] { End(); }}) {
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
@@ -74,6 +83,7 @@ int Program::Run(FirstShow show) {
 // wait for an answer to a message are left with it, also those before the main one has begun.
 void Program::End() {
     ended_ = true;
+    phone_.End(); // a call hangs up
     if (diary_) {
         // What the user has typed into a note is theirs, like any note that has been left.
         diary_->SaveNote(SaveMessages::Keep);
@@ -196,6 +206,10 @@ void Program::LoadCaptions() {
     if (lanEditor_) {
         lanEditor_->LoadCaptions();
     }
+    if (modemWindow_) {
+        modemWindow_->LoadCaptions();
+    }
+    mail_.LoadCaptions();
     toolkitTexts_.Use(FixedLanguages()[static_cast<std::size_t>(texts_.ProgramLanguage)].Locale);
 }
 
@@ -357,13 +371,16 @@ void Program::ReturnToToday() {
     formCal_.Redraw(dates_.PageMonth);
 }
 
-// No window to ask in yet: the event editor does not come here while the modem is off and the mail
-// does not work.
-bool Program::AskPhoneNumbers(ReminderExtra& /*extra*/) {
-    return false;
+bool Program::MailWorks() const {
+    return !mail_.Reminders().MailFailed();
 }
-bool Program::AskMailAddress(ReminderExtra& /*extra*/) {
-    return false;
+
+bool Program::AskPhoneNumbers(ReminderExtra& extra) {
+    return ModemWindow().AskPhoneNumbers(extra);
+}
+
+bool Program::AskMailAddress(ReminderExtra& extra) {
+    return mail_.AskMailAddress(extra);
 }
 
 } // namespace kestrova

@@ -8,16 +8,19 @@
 #include "diary/ui/ScreenReminder.h"
 #include "language/ProgramTexts.h"
 #include "language/ui/LanEditor.h"
-#include "mail/UnavailableMail.h"
+#include "mail/ui/MailDesk.h"
 #include "media/MediaService.h"
-#include "phone/UnavailableCaller.h"
+#include "phone/VoiceCaller.h"
+#include "phone/ui/Modem.h"
 #include "platform/InstanceLink.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
+#include "platform/qt/MailModule.h"
 #include "platform/qt/MediaModule.h"
 #include "platform/qt/QtBeeper.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtShell.h"
 #include "platform/qt/ToolkitTexts.h"
 #include "reminders/ClockTick.h"
@@ -83,6 +86,8 @@ private:
     void OpenSettings();
     Settings& SettingsWindow();
     LanEditor& LanguageEditor();
+    kestrova::Modem& ModemWindow();
+    void KeepNumbers();
     void RunCheck_Change(std::string_view text);
 
     // ClockWindows
@@ -98,7 +103,7 @@ private:
 
     // ReminderDetails
     [[nodiscard]] ModemState Modem() const override { return phone_.Modem(); }
-    [[nodiscard]] bool MailWorks() const override { return !mail_.MailFailed(); }
+    [[nodiscard]] bool MailWorks() const override;
     [[nodiscard]] bool SoundWorks() const override { return media_.SoundWorks(); }
     [[nodiscard]] bool VideoWorks() const override { return media_.VideoWorks(); }
     [[nodiscard]] bool CdWorks() const override { return media_.CdWorks(); }
@@ -113,6 +118,7 @@ private:
     }
     bool LoadCharacter() override { return speech_.LoadCharacter(); }
     void Talk(const std::string& text) override { speech_.Talk(text, AfterSpeaking::Hide); }
+    void PortChosen() override { phone_.PortChosen(); }
     std::optional<std::string> FindModem() override;
     void MakeSound(const std::string& path) override { media_.MakeSound(path); }
     void ChangeYear() override;
@@ -137,8 +143,10 @@ private:
     ToolkitTexts toolkitTexts_;
     InstanceLink& link_;
     UnavailableSpeaker speech_;
-    UnavailableCaller phone_;
-    UnavailableMail mail_;
+    QtSerialPort serial_;
+    VoiceCaller phone_;
+    MailModule mailModule_;
+    MailDesk mail_;
     MediaModule mediaDevices_;
 
     Selection dates_;
@@ -168,6 +176,7 @@ private:
     std::unique_ptr<ScreenReminder> screenReminder_;
     std::unique_ptr<Settings> settingsWindow_;
     std::unique_ptr<LanEditor> lanEditor_;
+    std::unique_ptr<kestrova::Modem> modemWindow_;
     QTimer Timer1;
     StartUp startUp_;
 };

@@ -16,6 +16,24 @@ Settings& Program::SettingsWindow() {
     return *settingsWindow_;
 }
 
+kestrova::Modem& Program::ModemWindow() {
+    if (!modemWindow_) {
+        modemWindow_ = std::make_unique<kestrova::Modem>(
+            &formCal_, kestrova::Modem::Rooms{settings_, texts_, dialogs_, loop_, phone_},
+            kestrova::Modem::Hooks{[this] { return SettingsWindow().SpeechSample(); },
+                                   [this] { KeepNumbers(); }});
+    }
+    return *modemWindow_;
+}
+
+// Numbers that the user has confirmed are kept at once.
+void Program::KeepNumbers() {
+    kept_.StoredNumbers = settings_.StoredNumbers;
+    kept_.PhoneRepeat = settings_.PhoneRepeat;
+    kept_.BeepAcknowledge = settings_.BeepAcknowledge;
+    (void)settingsStore_.SaveSettings(kept_); // shows its failure
+}
+
 LanEditor& Program::LanguageEditor() {
     if (!lanEditor_) {
         lanEditor_ = std::make_unique<LanEditor>(
@@ -41,6 +59,9 @@ void Program::OpenLanguageEditor() {
 void Program::ShowChoices() {
     formCal_.ApplySettings();
     formCal_.LoadTips();
+    if (modemWindow_) {
+        modemWindow_->LoadCaptions();
+    }
     if (diary_) {
         diary_->LoadCaptions();
     }

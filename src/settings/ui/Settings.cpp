@@ -250,9 +250,14 @@ void Settings::CombChimes_Click(int index) {
     ShowChime();
 }
 
+std::string Settings::SpeechSample() const {
+    return FromQt(TextSpch->text());
+}
+
 void Settings::CombCom_Click(int index) {
     rooms_.Record.ModemPort = rooms_.Texts.Text(lists::kModemPorts.Item(index));
     ComModem->setEnabled(index > 0);
+    rooms_.Actions.PortChosen();
 }
 
 void Settings::CombLan_Click(int index) {

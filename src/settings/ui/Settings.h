@@ -45,6 +45,9 @@ public:
     // Shows the settings as they are in the record.
     void ShowRecord();
 
+    // What the user tries the voice with.
+    [[nodiscard]] std::string SpeechSample() const;
+
     // Puts the texts of the string table, and the languages there are, into the window.
     void LoadCaptions();
 

@@ -56,7 +56,8 @@ struct MonthScene : DiaryScene {
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
                     [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
                     [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; }, [] {},
-                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [this] { ++Quits; }}};
+                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {},
+                    [this] { ++Quits; }}};
 
     void Show() {
         Window.LoadCaptions();

@@ -41,6 +41,7 @@ struct NoActions : SettingsActions {
     bool LoadCharacter() override { return true; }
     void Talk(const std::string& /*text*/) override {}
     std::optional<std::string> FindModem() override { return std::nullopt; }
+    void PortChosen() override {}
     bool SoundWorks() const override { return true; }
     void MakeSound(const std::string& /*path*/) override {}
     void ChangeYear() override {}
@@ -153,7 +154,7 @@ TEST_P(LanguageRenderTest, TheMonth) {
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
                    all.Pieces},
                   {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
-                   [] {}, [] {}});
+                   [] {}, [] {}, [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);

@@ -38,6 +38,7 @@ struct AskedActions : SettingsActions {
     bool LoadCharacter() override { return CharacterLoads; }
     void Talk(const std::string& text) override { Asked.push_back("talk " + text); }
     std::optional<std::string> FindModem() override { return Modem; }
+    void PortChosen() override {}
     bool SoundWorks() const override { return Sounds; }
     void MakeSound(const std::string& path) override { Asked.push_back("sound " + path); }
     void ChangeYear() override { Asked.emplace_back("year"); }

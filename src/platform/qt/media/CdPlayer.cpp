@@ -117,7 +117,8 @@ void CdPlayer::TakeDisc(const Found& found) {
     }
 }
 
-void CdPlayer::Fail(const Error& error) {
+// By value: the error may be the player's own, which goes here.
+void CdPlayer::Fail(Error error) { // NOLINT(performance-unnecessary-value-param)
     ShutDisc();
     Change(CdState::Closed);
     if (const auto failed = events_.Failed) {
@@ -153,7 +154,11 @@ void CdPlayer::PlayFrom(std::int64_t place) {
         player_ = MpvPlayer::Make(MpvContent::Samples, std::move(events));
     }
     if (!player_) {
-        returns_->Tell([this] { Fail({ErrorCode::Failed, "The disc cannot be played."}); });
+        returns_->Tell([number = opening_, this] {
+            if (number == opening_) {
+                Fail({ErrorCode::Failed, "The disc cannot be played."});
+            }
+        });
         return;
     }
     const auto open = [disc = disc_]() -> Result<std::unique_ptr<ByteSource>> {

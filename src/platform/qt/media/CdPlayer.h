@@ -50,7 +50,7 @@ private:
     void Hear();
     void TakeDisc(const Found& found);
     void TakeEnd(MediaEnd end);
-    void Fail(const Error& error);
+    void Fail(Error error);
     void ShutDisc();
 
     // Whether a disc is open. While one is being opened, the command is kept for then.

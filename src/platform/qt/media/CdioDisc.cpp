@@ -81,8 +81,8 @@ CdTable ReadTable(const CdIo_t* disc) {
 
 } // namespace
 
-void CdioDisc::Closer::operator()(_CdIo* disc) const {
-    cdio_destroy(disc);
+void CdioDisc::Closer::operator()(void* disc) const {
+    cdio_destroy(static_cast<CdIo_t*>(disc));
 }
 
 Result<std::shared_ptr<CdioDisc>> CdioDisc::Open(const std::string& device) {
@@ -91,7 +91,7 @@ Result<std::shared_ptr<CdioDisc>> CdioDisc::Open(const std::string& device) {
     if (!handle) {
         return OpenError(device);
     }
-    CdTable table = ReadTable(handle.get());
+    CdTable table = ReadTable(static_cast<CdIo_t*>(handle.get()));
     if (table.Tracks() == 0) {
         return NoDisc();
     }
@@ -110,7 +110,8 @@ Status CdioDisc::ReadSectors(std::int64_t place, int count, std::byte* into) {
         const auto bytes = static_cast<std::size_t>(part * kSectorBytes);
         std::memset(into, 0, bytes); // an image that is cut off fills in less and says nothing
         if (part <= 0 ||
-            cdio_read_audio_sectors(handle_.get(), into, static_cast<lsn_t>(rest.FirstSector),
+            cdio_read_audio_sectors(static_cast<CdIo_t*>(handle_.get()), into,
+                                    static_cast<lsn_t>(rest.FirstSector),
                                     static_cast<uint32_t>(part)) != DRIVER_OP_SUCCESS) {
             return ReadError();
         }
@@ -124,7 +125,7 @@ Status CdioDisc::ReadSectors(std::int64_t place, int count, std::byte* into) {
 // A disc that has been taken out and one that is scratched fail alike; the table tells them apart.
 Error CdioDisc::ReadError() {
     const Handle anew(cdio_open(device_.c_str(), DRIVER_UNKNOWN));
-    if (!anew || ReadTable(anew.get()).Tracks() == 0) {
+    if (!anew || ReadTable(static_cast<CdIo_t*>(anew.get())).Tracks() == 0) {
         return {ErrorCode::NotFound, "The disc has been taken out of the drive."};
     }
     return {ErrorCode::Damaged, "The disc is damaged and cannot be read any further."};

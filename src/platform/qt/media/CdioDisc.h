@@ -10,8 +10,6 @@
 #include <mutex>
 #include <string>
 
-struct _CdIo; // libcdio's own name
-
 namespace kestrova {
 
 // An audio disc that lies in a drive, or the image of one, through libcdio. From any thread.
@@ -31,9 +29,9 @@ public:
 
 private:
     struct Closer {
-        void operator()(_CdIo* disc) const;
+        void operator()(void* disc) const;
     };
-    using Handle = std::unique_ptr<_CdIo, Closer>;
+    using Handle = std::unique_ptr<void, Closer>; // what libcdio knows the disc by
 
     CdioDisc(std::string device, Handle handle, CdTable table)
         : device_(std::move(device)), handle_(std::move(handle)), table_(std::move(table)) {}

@@ -4,6 +4,8 @@
 #include "platform/qt/media/MpvPlayer.h"
 #include "platform/qt/media/SoundServer.h"
 
+#include <malloc.h>
+
 namespace kestrova {
 
 namespace {
@@ -14,6 +16,15 @@ constexpr auto kLongestAnswer = 500ms;
 
 class LinuxMedia : public MediaFactory {
 public:
+    // Each file brings threads and large buffers that come and go. Unless the allocator is told to
+    // give the buffers back, and not to set up a heap for every thread, the program keeps twice the
+    // memory that it needs, and more from film to film.
+    LinuxMedia() {
+        constexpr int kLargeBytes = 128 * 1024;
+        ::mallopt(M_MMAP_THRESHOLD, kLargeBytes);
+        ::mallopt(M_ARENA_MAX, 2);
+    }
+
     bool HasSound() override { return SoundServerAnswers(kLongestAnswer); }
 
     std::unique_ptr<MediaPlayer> MakePlayer(MediaKind kind, MediaPlayer::Events events) override {

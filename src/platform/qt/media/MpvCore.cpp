@@ -71,8 +71,9 @@ constexpr Option kOptions[] = {
 
 // Known containers only: the other readers are for playlists and discs.
 constexpr Option kSoundOptions[] = {{"demuxer", "lavf"}, {"vid", "no"}, {"vo", "null"}};
+// The scaler is the one that draws a picture in time without a graphics card.
 constexpr Option kVideoOptions[] = {
-    {"demuxer", "lavf"}, {"vo", "libmpv"}, {"sws-fast", "yes"}, {"sws-scaler", "bilinear"}};
+    {"demuxer", "lavf"}, {"vo", "libmpv"}, {"zimg-scaler", "bilinear"}, {"zimg-dither", "no"}};
 constexpr Option kSampleOptions[] = {
     {"demuxer", "rawaudio"},
     {"demuxer-rawaudio-format", "s16le"},

@@ -73,7 +73,10 @@ int MpvSource::Open(void* self, char* address, mpv_stream_cb_info* stream) noexc
         offered->Note(bytes.Failure());
         return MPV_ERROR_LOADING_FAILED;
     }
-    stream->cookie = new Stream{std::move(offered), std::move(bytes.Value())};
+    auto opened = std::make_unique<Stream>();
+    opened->Origin = std::move(offered);
+    opened->Bytes = std::move(bytes.Value());
+    stream->cookie = opened.release();
     stream->read_fn = Stream::Read;
     stream->seek_fn = Stream::Seek;
     stream->size_fn = Stream::Size;

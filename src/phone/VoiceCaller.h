@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "phone/CallScreen.h"
+#include "phone/ModemLine.h"
+#include "phone/ModemProbe.h"
+#include "phone/PhoneCaller.h"
+#include "speech/Speaker.h"
+
+#include <functional>
+#include <string>
+
+namespace kestrova {
+
+// Telephone calls through a modem on a serial port. One call at a time: what is asked for while one
+// runs is refused, not put off.
+class VoiceCaller : public PhoneCaller {
+public:
+    struct Rooms {
+        SerialPort& Port;
+        EventLoop& Loop;
+        Speaker& Speech;
+        FileStore& Files;
+        Dialogs& Boxes;
+        const StringTable& Texts;
+        AppSettings& Settings;
+        const std::string& Folder;           // the program folder
+        std::function<CallScreen&()> Screen; // asked for when the first call begins
+    };
+
+    explicit VoiceCaller(const Rooms& rooms);
+
+    // A line that is still open is hung up.
+    ~VoiceCaller() override;
+    VoiceCaller(const VoiceCaller&) = delete;
+    VoiceCaller& operator=(const VoiceCaller&) = delete;
+
+    // Leaves the port closed. While a call runs there is a modem.
+    bool ModemPresent() override;
+
+    // On while the settings name a port, unless the user has switched telephoning off since.
+    [[nodiscard]] ModemState Modem() const override;
+
+    bool SendMessage(const std::string& dialString, const std::string& message) override;
+    void Delay(int seconds) override;
+
+    // Telephoning is switched off until a port is chosen or a modem found.
+    void SwitchOff() { off_ = true; }
+    void PortChosen() { off_ = false; }
+
+    // A call, or the search for a modem, is under way.
+    [[nodiscard]] bool IsBusy() const { return busy_; }
+
+    // Ends the call that is under way; it hangs up, and `SendMessage` returns.
+    void Stop();
+
+    // The program is ending: so does the call, and no other begins.
+    void End();
+
+private:
+    void StopWords();
+
+    Rooms rooms_;
+    ModemLine line_;
+    ModemProbe probe_;
+    bool busy_ = false;
+    bool off_ = false;
+};
+
+} // namespace kestrova

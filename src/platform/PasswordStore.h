@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Result.h"
+
+#include <string>
+
+namespace kestrova {
+
+// The desktop's keyring. Each call handles events while the keyring thinks, and gives up on one
+// that is dead after a few seconds; it may be called again from one of those events.
+class PasswordStore {
+public:
+    virtual ~PasswordStore() = default;
+
+    // NotFound when the keyring has no password under this name; Failed when there is no keyring,
+    // or it does not answer, or the user does not open it.
+    virtual Result<std::string> Read(const std::string& name) = 0;
+
+    // Keeps a password, in the place of an older one of this name.
+    virtual Status Write(const std::string& name, const std::string& password) = 0;
+};
+
+} // namespace kestrova

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrova {
+
+// Cuts a text into pieces that are spoken one after another, the user having a say in between. A
+// piece ends with the word that holds a stop sign, or before a short word once it is long; the
+// pieces together are the text (a line end that closes a piece stands in it twice).
+[[nodiscard]] std::vector<std::string> CutSpeech(std::string_view text);
+
+// Words with the marks that say how they are to be spoken.
+[[nodiscard]] std::string WithMarks(int pitch, int speed, std::string_view words);
+
+// What the marks at the front of a text say, and the words behind them.
+struct MarkedWords {
+    std::optional<int> Pitch;
+    std::optional<int> Speed;
+    std::string Words;
+};
+[[nodiscard]] MarkedWords ReadMarks(std::string_view text);
+
+} // namespace kestrova
