@@ -2,6 +2,7 @@
 #include "reminders/ReminderReview.h"
 
 #include "language/ProgramTexts.h"
+#include "phone/ModemScript.h"
 #include "text/Numbers.h"
 
 #include <algorithm>
@@ -58,8 +59,7 @@ CalendarDate ReminderReview::TodaysDate() const {
 std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
     lines_.clear();
     // Yesterday's reminders do not come again, whatever the file says.
-    std::erase_if(usedUp_,
-                  [this](const UsedUp& used) { return used.Date < TodaysDate(); });
+    std::erase_if(usedUp_, [this](const UsedUp& used) { return used.Date < TodaysDate(); });
     // The diary may have been loaded anew before all marks could be written.
     ApplyMarks(rooms_.Store.Table());
     std::vector<DiaryEvent> shownBefore = std::move(shown_);
@@ -229,7 +229,7 @@ bool ReminderReview::CallNumbers(const DiaryEvent& event) {
         const std::string& number = event.Extra[i];
         bool done = false;
         if (!number.empty()) {
-            const bool is101 = rooms_.Settings.ModemName == kIs101Modem;
+            const bool is101 = rooms_.Settings.ModemName == kIs101Family;
             done = rooms_.Phone.SendMessage("ATD" + number + (is101 ? ";" : ""), event.Msg);
         }
         if (done || rooms_.Phone.Modem() != ModemState::On) {

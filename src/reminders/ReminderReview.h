@@ -19,9 +19,6 @@
 
 namespace kestrova {
 
-// Modems of this name need ";" after the number.
-inline constexpr std::string_view kIs101Modem = "Generic IS-101 Voice Modem";
-
 // Why a pass runs.
 enum class PassKind {
     Ordinary,

@@ -143,16 +143,16 @@ start() {
 
 # The same by the machine's own clock: `start_by_real_clock [ARGUMENT...] [NAME=VALUE...]`.
 start_by_real_clock() {
-    local word settings=() arguments=()
+    local word values=() arguments=()
     for word in "$@"; do
         if [[ $word =~ ^[A-Z_]+= ]]; then
-            settings+=("$word")
+            values+=("$word")
         else
             arguments+=("$word")
         fi
     done
     env HOME="$house/home" XDG_RUNTIME_DIR="$house/runtime" XDG_DATA_HOME="$house/home/data" \
-        "${settings[@]}" "$house/program/Kestrova" "${arguments[@]}" >>"$house/messages" 2>&1 &
+        "${values[@]}" "$house/program/Kestrova" "${arguments[@]}" >>"$house/messages" 2>&1 &
     program=$!
     programs+=("$program")
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "reminders/ReminderReview.h"
 
+#include "phone/ModemScript.h"
 #include "reminders/ClockScene.h"
 
 #include <gmock/gmock.h>
@@ -109,7 +110,7 @@ TEST(ReminderReviewTest, SpeechThatIsOffWaitsAndSpeechWithoutACharacterBeeps) {
 
 TEST(ReminderReviewTest, CallsGoThroughTheNumbersUntilOneAnswers) {
     ClockScene scene;
-    scene.Settings.ModemName = std::string(kIs101Modem);
+    scene.Settings.ModemName = std::string(kIs101Family);
     scene.Add(9, 0, "Milk", "Phone", {"", "111", "222", "333"});
     scene.Phone.Answered = "ATD222;";
     scene.PassAt(9, 0);

@@ -44,8 +44,8 @@ public:
     struct Hooks {
         std::function<void()> Changed; // the diary has been changed here, or is another one now
         std::function<void(const std::string& text)> Speak; // reads a note aloud
-        std::function<void()> ChangeMonthPicture; // the user is to choose another one
-        std::function<void()> ChangeDayPicture;   // for the page date
+        std::function<void()> ChangeMonthPicture;           // the user is to choose another one
+        std::function<void()> ChangeDayPicture;             // for the page date
     };
 
     Diary(QWidget* parent, const Rooms& rooms, Hooks hooks);
