@@ -75,6 +75,18 @@ TEST(DiaryWindowTest, EventsAreTypedAcceptedAndListedByTime) {
     EXPECT_FALSE(page.Window.IsEditing());
 }
 
+TEST(DiaryWindowTest, PicturesAreChangedWhileNoRowIsEdited) {
+    PageScene scene;
+    auto* const month = scene.Find<QPushButton>("ComMonPic");
+    auto* const day = scene.Find<QPushButton>("ComDayPic");
+    month->click();
+    day->click();
+    EXPECT_EQ(scene.PicturesAsked, "MD");
+    scene.Click("LabEvent(0)");
+    EXPECT_FALSE(month->isEnabled());
+    EXPECT_FALSE(day->isEnabled());
+}
+
 TEST(DiaryWindowTest, EscapeLeavesTheRowAsItWas) {
     PageScene page;
     page.Add("10", "ten");

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The media panel and the views of the main window.
+#include "app/ui/FormCal.h"
+
+#include "diary/DiaryScene.h"
+#include "fakes/CountingBeeper.h"
+#include "fakes/FakeMedia.h"
+#include "platform/qt/QtText.h"
+#include "speech/UnavailableSpeaker.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QMenu>
+#include <QSlider>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace kestrova {
+namespace {
+
+struct NoShell : Shell {
+    Status OpenPage(const std::string& /*path*/) override { return Done{}; }
+};
+
+// The main window on a machine with a drive.
+struct PanelScene : DiaryScene {
+    Selection Dates{2026, 2026, 4, 14, 4, 14};
+    AppSettings Settings = FirstSettings(Texts);
+    Languages Tongues{Files, "/home/me/Lan.dat", Texts};
+    PictureTable Pictures;
+    std::string Folder = kFolder;
+    UnavailableSpeaker Speech;
+    FakeMediaDevices Devices;
+    CountingBeeper Bell;
+    MediaService Media{{Devices, Files, Bell, Texts, Settings}, [](const std::string&) {}};
+    NoShell Desktop;
+    PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
+    FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
+                    Desktop, Clock, Pieces},
+                   {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
+                    [] {}, [] {}, [] {}, [] {}}};
+
+    explicit PanelScene(const std::string& drive = "/dev/cdrom") {
+        Devices.Installed = true;
+        Devices.Drive = drive;
+        Media.SoundIni();
+        Media.MusicIni();
+        Window.LoadCaptions();
+        Window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
+    }
+
+    template<typename Control = QWidget> [[nodiscard]] Control* Find(const char* name) const {
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (auto* const found = window->findChild<Control*>(QLatin1String(name))) {
+                return found;
+            }
+        }
+        ADD_FAILURE() << name;
+        return nullptr;
+    }
+
+    [[nodiscard]] bool Sees(const char* name) const { return Find(name)->isVisible(); }
+
+    [[nodiscard]] static QWidget* FullView() {
+        for (QWidget* const window : QApplication::topLevelWidgets()) {
+            if (window->objectName() == QStringLiteral("FullView") && window->isVisible()) {
+                return window;
+            }
+        }
+        return nullptr;
+    }
+
+    // A film that shows its first picture.
+    void PlayFilm() {
+        Media.PlayFile("/film.avi");
+        Devices.Films->Length = 60;
+        Devices.Films->On.Moved();
+        Devices.Films->On.FrameReady();
+    }
+
+    void OpenFileMenu() {
+        auto* const menu = Window.findChild<QMenu*>(QStringLiteral("MNU_File"));
+        menu->popup(QPoint());
+        menu->hide();
+    }
+};
+
+TEST(MediaViewsTest, ThePanelIsThereOnlyForWhatThereIsToPlay) {
+    const PanelScene cd;
+    EXPECT_TRUE(cd.Sees("ChkCD"));
+    EXPECT_FALSE(cd.Find("Ctrl(2)")->isEnabled());
+    EXPECT_EQ(cd.Find<QCheckBox>("ChkCD")->text(), QStringLiteral("Off"));
+    cd.Find<QCheckBox>("ChkCD")->click();
+    EXPECT_EQ(cd.Find<QCheckBox>("ChkCD")->text(), QStringLiteral("On"));
+    QTest::mouseClick(cd.Find("Ctrl(2)"), Qt::LeftButton);
+    EXPECT_EQ(cd.Devices.Cd->Told, "op");
+
+    PanelScene bare("");
+    EXPECT_FALSE(bare.Window.findChild<QWidget*>(QStringLiteral("MediaBar"))->isVisible());
+    bare.PlayFilm();
+    EXPECT_TRUE(bare.Window.findChild<QWidget*>(QStringLiteral("MediaBar"))->isVisible());
+    EXPECT_FALSE(bare.Window.findChild<QWidget*>(QStringLiteral("ChkCD"))->isVisible());
+    bare.Window.findChild<QSlider*>(QStringLiteral("MediaPosition"))->setValue(305);
+    EXPECT_DOUBLE_EQ(bare.Devices.Films->Now, 30.5);
+}
+
+TEST(MediaViewsTest, AFilmCoversThePictureAndTheMenusFollow) {
+    PanelScene scene;
+    EXPECT_FALSE(scene.Sees("Video"));
+    scene.PlayFilm();
+    EXPECT_TRUE(scene.Sees("Video"));
+    EXPECT_EQ(scene.Find("Video")->size(), scene.Find("Image1")->size());
+    scene.OpenFileMenu();
+    EXPECT_FALSE(scene.Find<QAction>("MNU_Half")->isEnabled());
+    QTest::keyClick(&scene.Window, Qt::Key_Space);
+    EXPECT_TRUE(scene.Devices.Films->Paused);
+    scene.Devices.Films->End(MediaEnd::Finished);
+    EXPECT_FALSE(scene.Sees("Video"));
+    scene.OpenFileMenu();
+    EXPECT_TRUE(scene.Find<QAction>("MNU_Half")->isEnabled());
+}
+
+TEST(MediaViewsTest, HalfAndFullViewComeAndGo) {
+    PanelScene scene;
+    scene.Find<QAction>("MNU_Half")->trigger();
+    EXPECT_FALSE(scene.Sees("LabCurMth"));
+    scene.OpenFileMenu();
+    EXPECT_TRUE(scene.Find<QAction>("MNU_Half")->isChecked());
+    QTest::keyClick(&scene.Window, Qt::Key_F11);
+    ASSERT_NE(PanelScene::FullView(), nullptr);
+    EXPECT_EQ(scene.Find("Image1")->window(), PanelScene::FullView());
+    QTest::keyClick(PanelScene::FullView(), Qt::Key_Escape);
+    EXPECT_EQ(PanelScene::FullView(), nullptr);
+    EXPECT_EQ(scene.Find("Image1")->window(), &scene.Window);
+    EXPECT_FALSE(scene.Sees("LabCurMth")) << "one view back";
+    QTest::keyClick(&scene.Window, Qt::Key_Escape);
+    EXPECT_TRUE(scene.Sees("LabCurMth"));
+
+    scene.Settings.VideoFullScreen = 1;
+    scene.PlayFilm();
+    ASSERT_NE(PanelScene::FullView(), nullptr);
+    QTest::mouseDClick(scene.Find("Video"), Qt::LeftButton);
+    EXPECT_EQ(PanelScene::FullView(), nullptr);
+    scene.Media.LabMusic_DblClick();
+    PanelScene::FullView()->close();
+    EXPECT_EQ(PanelScene::FullView(), nullptr) << "closed by the window manager";
+    EXPECT_TRUE(scene.Sees("Video")) << "the film goes on in the window";
+    scene.Media.LabMusic_DblClick();
+    scene.Devices.Films->End(MediaEnd::Finished);
+    EXPECT_EQ(PanelScene::FullView(), nullptr);
+}
+
+TEST(MediaViewsTest, HidingTheWindowEndsWhatPlays) {
+    PanelScene scene;
+    scene.Settings.ReminderOnClose = 1;
+    scene.Find<QCheckBox>("ChkCD")->click();
+    scene.PlayFilm();
+    scene.Media.LabMusic_DblClick();
+    scene.Window.close();
+    EXPECT_FALSE(scene.Window.isVisible());
+    EXPECT_EQ(PanelScene::FullView(), nullptr);
+    EXPECT_FALSE(scene.Devices.Films->Playing);
+    EXPECT_EQ(scene.Devices.Cd->Now, CdState::Closed);
+}
+
+} // namespace
+} // namespace kestrova
