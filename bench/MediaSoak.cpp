@@ -27,6 +27,7 @@ using namespace kestrova;
 
 constexpr double kGrowthBound = 2048; // KiB
 constexpr double kDrawBound = 4;      // milliseconds
+constexpr double kNothingDrawn = 1e9;
 constexpr int kWidth = 720;
 constexpr int kHeight = 576;
 
@@ -83,16 +84,19 @@ public:
 
     [[nodiscard]] double MedianDraw() {
         std::sort(times_.begin(), times_.end());
-        return times_.empty() ? 0 : times_[times_.size() / 2];
+        return times_.empty() ? kNothingDrawn : times_[times_.size() / 2];
     }
 
 private:
     void Draw() {
         const auto before = std::chrono::steady_clock::now();
-        player_->Render({pixels_.data(), kWidth, kHeight, std::ptrdiff_t{kWidth} * 4});
+        const bool drawn =
+            player_->Render({pixels_.data(), kWidth, kHeight, std::ptrdiff_t{kWidth} * 4});
         const std::chrono::duration<double, std::milli> time =
             std::chrono::steady_clock::now() - before;
-        times_.push_back(time.count());
+        if (drawn) {
+            times_.push_back(time.count());
+        }
     }
 
     MediaModule& module_;

@@ -225,6 +225,18 @@ void WriteModemLists(const std::filesystem::path& root) {
 
 } // namespace
 
+void WriteSpeech(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Speech");
+    std::string figure = "<svg viewBox=\"0 0 99 99\"><defs><linearGradient id=\"a\"/></defs>";
+    for (const char* const layer :
+         {"body", "eyes-open", "eyes-closed", "mouth-closed", "mouth-open", "gesture-1"}) {
+        figure +=
+            "<g id=\"" + std::string(layer) + "\"><path d=\"M1 2L3 4\" fill=\"url(#a)\"/></g>";
+    }
+    seeds.Write("figure", "<?xml version=\"1.0\"?><!-- x -->" + figure + "</svg>");
+    seeds.Write("text", "\\Pit=1\\\\Spd=2\\Meet Bob at 3.15 today.\r\nOn time!");
+}
+
 int main(int argc, char* argv[]) {
     if (argc != 2) {
         std::fprintf(stderr, "usage: WriteSeeds FOLDER\n");
@@ -241,5 +253,6 @@ int main(int argc, char* argv[]) {
     WriteBitmaps(root);
     WriteModemLists(root);
     WriteMetafiles(root);
+    WriteSpeech(root);
     return 0;
 }

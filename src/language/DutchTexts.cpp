@@ -124,6 +124,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "Aantal s&tukjes"},
     {MenuGamePicture, "&Afbeelding wijzigen"},
     {MenuGameQuit, "Spel st&oppen"},
+    {MenuGameLarge, "&Groot"},
     {PuzzleName, "Puzzel"},
     {PuzzleMoves, "Zetten: %1"},
     {PuzzleTime, "Tijd: %1"},

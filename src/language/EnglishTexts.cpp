@@ -122,6 +122,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Puzzle Size"},
     {MenuGamePicture, "&Change Picture"},
     {MenuGameQuit, "&Quit Game"},
+    {MenuGameLarge, "&Large"},
     {PuzzleName, "Puzzle"},
     {PuzzleMoves, "Moves: %1"},
     {PuzzleTime, "Time: %1"},

@@ -125,6 +125,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Nombre de pièces"},
     {MenuGamePicture, "&Changer d’image"},
     {MenuGameQuit, "Abandonner le je&u"},
+    {MenuGameLarge, "&Grand"},
     {PuzzleName, "Puzzle"},
     {PuzzleMoves, "Coups : %1"},
     {PuzzleTime, "Temps : %1"},

@@ -128,6 +128,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "Anzahl der &Teile"},
     {MenuGamePicture, "&Bild wechseln"},
     {MenuGameQuit, "Spiel b&eenden"},
+    {MenuGameLarge, "&Groß"},
     {PuzzleName, "Puzzle"},
     {PuzzleMoves, "Züge: %1"},
     {PuzzleTime, "Zeit: %1"},

@@ -126,6 +126,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Μέγεθος"},
     {MenuGamePicture, "&Αλλαγή εικόνας"},
     {MenuGameQuit, "&Τέλος παιχνιδιού"},
+    {MenuGameLarge, "Με&γάλο"},
     {PuzzleName, "Παζλ"},
     {PuzzleMoves, "Κινήσεις: %1"},
     {PuzzleTime, "Χρόνος: %1"},

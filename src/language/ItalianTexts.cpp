@@ -126,6 +126,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Dimensione"},
     {MenuGamePicture, "&Cambia immagine"},
     {MenuGameQuit, "&Esci dal gioco"},
+    {MenuGameLarge, "&Grande"},
     {PuzzleName, "Puzzle"},
     {PuzzleMoves, "Mosse: %1"},
     {PuzzleTime, "Tempo: %1"},

@@ -123,6 +123,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Tamanho"},
     {MenuGamePicture, "Trocar &imagem"},
     {MenuGameQuit, "&Sair do jogo"},
+    {MenuGameLarge, "&Grande"},
     {PuzzleName, "Quebra-cabeça"},
     {PuzzleMoves, "Jogadas: %1"},
     {PuzzleTime, "Tempo: %1"},

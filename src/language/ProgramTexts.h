@@ -125,6 +125,7 @@ enum class ProgramText {
     MenuGameSize,
     MenuGamePicture,
     MenuGameQuit,
+    MenuGameLarge,
     PuzzleName,
     PuzzleMoves,
     PuzzleTime,

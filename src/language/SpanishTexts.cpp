@@ -124,6 +124,7 @@ constexpr ProgramTextRow kRows[] = {
     {MenuGameSize, "&Tamaño"},
     {MenuGamePicture, "&Cambiar imagen"},
     {MenuGameQuit, "&Salir del juego"},
+    {MenuGameLarge, "&Grande"},
     {PuzzleName, "Rompecabezas"},
     {PuzzleMoves, "Jugadas: %1"},
     {PuzzleTime, "Tiempo: %1"},

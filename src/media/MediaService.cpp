@@ -66,7 +66,14 @@ MediaViewMode MediaService::View() const {
 
 // ---- sounds ----
 
-void MediaService::PlayWave(const std::string& path) {
+void MediaService::MakeSound(const std::string& path) {
+    if (!IsWaveFile(path) && videoAvailable_) {
+        PlayFile(path);
+        return;
+    }
+    if (soundPlaying_) {
+        return;
+    }
     if (!sound_) {
         sound_ = rooms_.Devices.MakePlayer(MediaKind::Sound,
                                            {[this](MediaEnd end, const std::string& /*words*/) {
@@ -84,14 +91,6 @@ void MediaService::PlayWave(const std::string& path) {
     }
     soundPlaying_ = true;
     sound_->Play(path);
-}
-
-void MediaService::MakeSound(const std::string& path) {
-    if (!IsWaveFile(path) && videoAvailable_) {
-        PlayFile(path);
-    } else if (!soundPlaying_) {
-        PlayWave(path);
-    }
 }
 
 // ---- films and music files ----
@@ -112,10 +111,6 @@ bool MediaService::LoadClip() {
 }
 
 void MediaService::PlayFile(const std::string& path) {
-    if (IsWaveFile(path)) {
-        MakeSound(path);
-        return;
-    }
     if (!LoadClip()) {
         tell_(TextOf(rooms_.Texts, ProgramText::MediaFailed, path));
         return;
@@ -141,7 +136,7 @@ void MediaService::ClipFrame() {
     }
     if (display_ != MediaDisplay::Video) {
         display_ = MediaDisplay::Video;
-        full_ = rooms_.Settings.VideoFullScreen != 0;
+        full_ = full_ || rooms_.Settings.VideoFullScreen != 0;
         ShowChange();
     }
     if (window_ != nullptr) {
@@ -164,8 +159,9 @@ void MediaService::VideoCleanUp() {
     }
     clip_->Stop();
     clipPlaying_ = false;
-    display_ = MediaDisplay::Picture;
-    full_ = false;
+    if (std::exchange(display_, MediaDisplay::Picture) != MediaDisplay::Picture) {
+        full_ = false; // a song leaves the full view of the picture alone
+    }
     if (std::exchange(halfForClip_, false)) {
         half_ = false;
     }
@@ -224,10 +220,8 @@ bool MediaService::PlayReminder(const std::string& path) {
         tell_(TextOf(rooms_.Texts, ProgramText::MediaGone, path));
         return true;
     }
-    if (IsWaveFile(path) && soundPlaying_) {
-        return false; // the next pass has its turn
-    }
-    if (!cdUnavailable_) {
+    if (!cdUnavailable_ && !cdOn_) {
+        cdAsked_ = false;
         SwitchCd(true);
     }
     if (window_ != nullptr) {
@@ -237,7 +231,10 @@ bool MediaService::PlayReminder(const std::string& path) {
     full_ = false;
     rooms_.Settings.VideoFullScreen = 0;
     rooms_.Settings.VideoRepeat = 1;
-    MakeSound(path);
+    if (window_ != nullptr) {
+        window_->SettingsChanged();
+    }
+    PlayFile(path);
     if (ShowsVideo()) {
         LabMusic_Click();
         halfForClip_ = true;
@@ -252,6 +249,7 @@ bool MediaService::PlayCd() {
               rooms_.Texts.Text(texts::kAtTheMoment));
         return true;
     }
+    cdAsked_ = true;
     SwitchCd(true);
     music_->Play();
     return true;
@@ -274,6 +272,9 @@ void MediaService::CdFailed(const Error& error) {
         cdOn_ = false;
     }
     ShowChange();
+    if (!cdAsked_) {
+        return; // nobody has asked for a disc
+    }
     if (error.Code == ErrorCode::NotFound) {
         tell_(TextOf(rooms_.Texts, ProgramText::CdMissing));
     } else {
@@ -295,6 +296,7 @@ void MediaService::SwitchCd(bool on) {
 void MediaService::ChkCD_Click(bool on) {
     half_ = false;
     halfForClip_ = false;
+    cdAsked_ = on;
     SwitchCd(on);
     if (on && !cdOn_) {
         tell_(TextOf(rooms_.Texts, ProgramText::CdFailed));
@@ -305,6 +307,7 @@ void MediaService::ControlCd(PlayerButton button) {
     if (!music_ || !cdOn_) {
         return;
     }
+    cdAsked_ = true;
     switch (button) {
     case PlayerButton::Previous: music_->Prev(); break;
     case PlayerButton::Next: music_->Next(); break;
@@ -348,6 +351,10 @@ void MediaService::Ctrl_Click(PlayerButton button) {
 // ---- the views ----
 
 void MediaService::LabMusic_Click() {
+    if (full_) {
+        LeaveView();
+        return;
+    }
     half_ = !half_;
     halfForClip_ = false;
     ShowChange();

@@ -34,9 +34,10 @@ class MediaWindow {
 public:
     virtual ~MediaWindow() = default;
 
-    virtual void ShowMedia() = 0; // states, texts or the view have changed
-    virtual void ShowFrame() = 0; // the video has a new picture
-    virtual void BringUp() = 0;   // becomes visible, in its normal state
+    virtual void ShowMedia() = 0;       // states, texts or the view have changed
+    virtual void ShowFrame() = 0;       // the video has a new picture
+    virtual void BringUp() = 0;         // becomes visible, in its normal state
+    virtual void SettingsChanged() = 0; // a reminder has set the switches for films
 };
 
 // The media of the main window: a wave device for chimes and short sounds, a player for films and
@@ -71,7 +72,8 @@ public:
     bool PlayCd() override;
     void CleanUp() override;
 
-    // Plays a file that the user has chosen: a film in the picture area, anything else as sound.
+    // Plays a file in place of the one before: a film in the picture area, anything else as sound,
+    // which the buttons act on, too.
     void PlayFile(const std::string& path);
 
     // Ends a film or a music file and gives the picture area back to the month's picture.
@@ -108,7 +110,6 @@ private:
     void ShowChange();
     [[nodiscard]] bool LoadClip();
     [[nodiscard]] bool LoadCd();
-    void PlayWave(const std::string& path);
     void ClipEnded(MediaEnd end, const std::string& words);
     void ClipFrame();
     void CdFailed(const Error& error);
@@ -126,6 +127,7 @@ private:
     bool clipPlaying_ = false;
     bool clipMoved_ = false; // the file that plays has begun to
     bool cdOn_ = false;
+    bool cdAsked_ = false;     // it was not only opened beside a film
     bool half_ = false;        // the media panel state is -1
     bool halfForClip_ = false; // and ends with the film
     bool full_ = false;

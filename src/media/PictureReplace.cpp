@@ -52,10 +52,12 @@ Status Replacement::CopyAll(const std::string& folder, const std::vector<std::st
             continue;
         }
         const auto stamp = files_.Stamp(folder + name);
-        if (stamp && static_cast<std::uint64_t>(stamp->Size) > kMostPictureBytes) {
-            return Error{ErrorCode::TooLarge, folder + name};
+        if (!stamp || static_cast<std::uint64_t>(stamp->Size) > kMostPictureBytes) {
+            continue; // no picture of ours
         }
-        if (const Status copied = files_.CopyToNew(folder + name, target + name); !copied) {
+        const Status copied = files_.CopyToNew(folder + name, target + name);
+        // What cannot be read, nobody can replace by mistake either: it would be copied first.
+        if (!copied && files_.Read(folder + name, kMostPictureBytes)) {
             return copied;
         }
     }

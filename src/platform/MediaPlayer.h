@@ -42,6 +42,9 @@ public:
     // Begins a file; one that is playing is ended first, without an event.
     virtual void Play(const std::string& path) = 0;
 
+    // The same with the bytes of a wave file that is on no disc.
+    virtual void PlayBytes(std::string wave) = 0;
+
     // Ends the file without an event. It is silent when this returns.
     virtual void Stop() = 0;
 

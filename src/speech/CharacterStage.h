@@ -30,7 +30,7 @@ public:
     virtual void SetEvents(Events events) = 0;
 
     // Whose turn it is from now on; nothing is drawn before it is shown. Hides the one before.
-    virtual void Load(const CharacterFigure& figure) = 0;
+    virtual void Load(CharacterFigure figure) = 0;
     virtual void Unload() = 0;
 
     virtual void Show() = 0;

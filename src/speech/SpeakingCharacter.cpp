@@ -139,8 +139,8 @@ bool SpeakingCharacter::LoadMerlin() {
     if (auto* const figure = std::get_if<CharacterFigure>(&read)) {
         AgentIni();
         Agent1->Unload();
-        CurrentCharacter = std::move(*figure);
-        Agent1->Load(*CurrentCharacter);
+        Agent1->Load(std::move(*figure));
+        CurrentCharacter = settings.CharacterName;
         return true;
     }
     return AgentLoaded(); // the file has gone since it was looked at

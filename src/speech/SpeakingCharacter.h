@@ -107,8 +107,8 @@ private:
     std::vector<std::string> characters_; // what the list CombChr shows
     std::vector<LeftOutFile> leftOut_;
     std::unique_ptr<SpeechAgent> Agent1;
-    std::optional<CharacterFigure> CurrentCharacter;
-    bool stopSpeaking_ = false; // StopSpeaking
+    std::optional<std::string> CurrentCharacter; // the name of its file
+    bool stopSpeaking_ = false;                  // StopSpeaking
     bool talking_ = false;
     std::deque<LongText> later_;
 };

@@ -128,7 +128,7 @@ bool SpeechAgent::PlaySound(const SpokenSound& sound) {
              }});
     }
     if (player_) {
-        (void)WaveBytes(sound);
+        player_->PlayBytes(WaveBytes(sound));
     }
     return player_ != nullptr;
 }

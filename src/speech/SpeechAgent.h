@@ -8,6 +8,7 @@
 #include <deque>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace kestrova {
 
@@ -29,7 +30,7 @@ public:
     SpeechAgent(const SpeechAgent&) = delete;
     SpeechAgent& operator=(const SpeechAgent&) = delete;
 
-    void Load(const CharacterFigure& figure) { rooms_.Stage.Load(figure); }
+    void Load(CharacterFigure figure) { rooms_.Stage.Load(std::move(figure)); }
 
     // Hides it first, silent.
     void Unload();

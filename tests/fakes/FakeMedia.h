@@ -32,6 +32,7 @@ public:
         Playing = true;
         Paused = false;
     }
+    void PlayBytes(std::string wave) override { Play(wave); }
     void Stop() override { Playing = false; }
     bool IsPlaying() const override { return Playing; }
     void SetPaused(bool paused) override { Paused = paused; }

@@ -20,10 +20,12 @@ using testing::IsEmpty;
 struct RecordingWindow : MediaWindow {
     int Frames = 0;
     int BroughtUp = 0;
+    int Switched = 0;
 
     void ShowMedia() override {}
     void ShowFrame() override { ++Frames; }
     void BringUp() override { ++BroughtUp; }
+    void SettingsChanged() override { ++Switched; }
 };
 
 // A machine with the libraries, a sound server and a drive.
@@ -165,6 +167,10 @@ TEST(MediaServiceTest, AMediaReminderBringsUpTheWindowAndPlaysOverAndOver) {
     EXPECT_TRUE(scene.Media.PlayReminder("/film.avi"));
     EXPECT_EQ(scene.Window.BroughtUp, 1);
     EXPECT_TRUE(scene.Media.IsCdOn());
+    scene.Devices.Cd->Fail({ErrorCode::NotFound, "no medium"});
+    EXPECT_FALSE(scene.Media.IsCdOn());
+    EXPECT_THAT(scene.Told, IsEmpty()) << "nobody has asked for a disc";
+    EXPECT_EQ(scene.Window.Switched, 1);
     EXPECT_EQ(scene.Settings.VideoFullScreen, 0);
     EXPECT_EQ(scene.Settings.VideoRepeat, 1);
     EXPECT_TRUE(scene.Devices.Films->Repeat);
@@ -173,17 +179,19 @@ TEST(MediaServiceTest, AMediaReminderBringsUpTheWindowAndPlaysOverAndOver) {
     EXPECT_EQ(scene.Media.View(), MediaViewMode::Normal);
 }
 
-TEST(MediaServiceTest, AReminderThatCannotPlayIsToldOnceAndABusyOneComesAgain) {
+TEST(MediaServiceTest, AReminderThatCannotPlayIsToldOnceAndAWaveDoesNotYieldToTheChime) {
     MediaScene scene;
     EXPECT_TRUE(scene.Media.PlayReminder("/gone.avi")) << "it is used up";
     EXPECT_THAT(scene.Told, ElementsAre(HasSubstr("/gone.avi")));
 
     scene.Files.Put("/horn.wav", "x");
     scene.Media.MakeSound("/chime.wav");
-    EXPECT_FALSE(scene.Media.PlayReminder("/horn.wav")) << "the chime of the full hour plays";
-    scene.Devices.Waves->End(MediaEnd::Finished);
     EXPECT_TRUE(scene.Media.PlayReminder("/horn.wav"));
+    EXPECT_THAT(scene.Devices.Films->Played, ElementsAre("/horn.wav"));
+    EXPECT_FALSE(scene.Devices.Films->Repeat);
     EXPECT_EQ(scene.Media.View(), MediaViewMode::Normal);
+    scene.Media.Ctrl_Click(PlayerButton::Stop);
+    EXPECT_FALSE(scene.Devices.Films->Playing) << "a long one can be stopped";
 
     EXPECT_TRUE(scene.Media.PlayCd());
     EXPECT_EQ(scene.Devices.Cd->Now, CdState::Playing);

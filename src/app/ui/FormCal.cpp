@@ -192,6 +192,7 @@ void FormCal::changeEvent(QEvent* event) {
     const bool back =
         event->type() == QEvent::WindowStateChange || event->type() == QEvent::ActivationChange;
     if (back && windowReady_ && isVisible() && !isMinimized()) {
+        GetPicture();
         Redraw(kSameMonth);
     }
 }
@@ -337,15 +338,22 @@ void FormCal::MNU_Settings_Click() {
     hooks_.OpenSettings();
 }
 
-// The half view has the picture or the film alone.
+// Whether the picture, film or puzzle has the window to itself.
+bool FormCal::IsHalf() const {
+    return rooms_.Media.View() == MediaViewMode::Half || game_->WantsWindow();
+}
+
 void FormCal::ViewChanged() {
-    const bool half = rooms_.Media.View() == MediaViewMode::Half;
+    const bool half = IsHalf();
+    if (half == card_->isHidden()) {
+        return;
+    }
     card_->setVisible(!half);
-    if (half) {
-        setFocus();
-    } else {
+    if (!half) {
         card_->setFocus();
         Redraw(kSameMonth);
+    } else if (!game_->IsRunning()) {
+        setFocus();
     }
 }
 
@@ -360,10 +368,8 @@ void FormCal::MNU_File_Click() {
 
 void FormCal::MNU_Full_Click() {
     rooms_.Settings.VideoFullScreen = MNU_Full->isChecked() ? 1 : 0;
-    hooks_.SettingsChanged();
-    if (MNU_Full->isChecked() != (rooms_.Media.View() == MediaViewMode::Full)) {
-        rooms_.Media.LabMusic_DblClick();
-    }
+    hooks_.VideoChosen();
+    rooms_.Media.LabMusic_DblClick();
 }
 
 void FormCal::MNU_Half_Click() {
@@ -379,14 +385,15 @@ void FormCal::MNU_Media_Click() {
 }
 
 void FormCal::MNU_Picture_Click() {
+    const int month = rooms_.Dates.PageMonth; // the clock may show another while the user chooses
     hooks_.ChPic();
-    MNU_Mon_Click(rooms_.Dates.PageMonth);
+    MNU_Mon_Click(month);
 }
 
 void FormCal::MNU_Repeat_Click() {
     rooms_.Settings.VideoRepeat = MNU_Repeat->isChecked() ? 1 : 0;
     rooms_.Media.SettingsChanged();
-    hooks_.SettingsChanged();
+    hooks_.VideoChosen();
 }
 
 void FormCal::MNU_About_Click() {

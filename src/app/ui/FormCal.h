@@ -55,6 +55,8 @@ public:
         std::function<void(int day)> OpenDiary;
         std::function<void()> OpenSettings;
         std::function<void()> SettingsChanged; // to be kept
+        std::function<void()> VideoChosen;     // to be kept: how films are shown
+        std::function<void()> VideoSwitched;   // not to be kept: by a reminder
         std::function<void(int index)> ChangeLanguage;
         std::function<void()> ReloadLanguage; // day names have other places
         std::function<void()> FirstDrawn;
@@ -123,6 +125,7 @@ private:
     void AfterMove(bool otherMonth);
     void SelectDay(int day);
     void ViewChanged();
+    [[nodiscard]] bool IsHalf() const;
 
     void LabYrAdv_Click();
     void LabYrRtd_Click();

@@ -82,8 +82,9 @@ FormCal::FormCal(const Rooms& rooms, Hooks hooks) : rooms_(rooms), hooks_(std::m
     layout_ = new QBoxLayout(QBoxLayout::LeftToRight, centre);
     layout_->setContentsMargins(look::kMargin, look::kMargin, look::kMargin, look::kMargin);
     layout_->setSpacing(look::kMargin);
-    stage_ = new MediaStage(centre, rooms_.Media, rooms_.Texts,
-                            {[this] { ViewChanged(); }, [this] { ShowNormal(); }});
+    stage_ = new MediaStage(
+        centre, rooms_.Media, rooms_.Texts,
+        {[this] { ViewChanged(); }, [this] { ShowNormal(); }, [this] { hooks_.VideoSwitched(); }});
     Image1 = &stage_->Picture();
     Image1->Clicked = [this] { LabCurMth_Click(); };
     Image1->DoubleClicked = [this] { MNU_Settings_Click(); };
@@ -183,9 +184,11 @@ void FormCal::BuildMenus() {
     BuildMonthMenu();
     BuildChoiceMenus();
     game_ = new GameMenu(
-        {rooms_.Texts, rooms_.Settings, rooms_.Boxes, rooms_.Pieces}, MNU_Game, Image1, [this] {
-            return rooms_.Pictures.MonthPicture[static_cast<std::size_t>(rooms_.Dates.PageMonth)];
-        });
+        {rooms_.Texts, rooms_.Settings, rooms_.Boxes, rooms_.Pieces}, MNU_Game, Image1,
+        {[this] {
+             return rooms_.Pictures.MonthPicture[static_cast<std::size_t>(rooms_.Dates.PageMonth)];
+         },
+         [this] { rooms_.Media.VideoCleanUp(); }, [this] { ViewChanged(); }});
     AddAction(MNU_Help, QStringLiteral("MNU_Manual"), [this] {
         LabHelp_Click();
     })->setShortcut(QKeySequence::HelpContents);

@@ -3,6 +3,7 @@
 
 #include "language/ProgramTexts.h"
 #include "language/Texts.h"
+#include "media/ui/BusyCursor.h"
 #include "media/ui/PictureReader.h"
 #include "media/ui/WaitBeside.h"
 #include "platform/qt/QtText.h"
@@ -16,9 +17,8 @@
 
 namespace kestrova {
 
-GameMenu::GameMenu(const Rooms& rooms, QMenu* menu, QWidget* picture,
-                   std::function<std::string()> month)
-    : QObject(menu), rooms_(rooms), area_(picture), month_(std::move(month)), MNU_Game(menu) {
+GameMenu::GameMenu(const Rooms& rooms, QMenu* menu, QWidget* picture, Hooks hooks)
+    : QObject(menu), rooms_(rooms), area_(picture), hooks_(std::move(hooks)), MNU_Game(menu) {
     MNU_GmStart = Entry(menu, "MNU_GmStart", [this] { Start(PuzzleKind::MovingPiece); });
     MNU_GmJigSaw = Entry(menu, "MNU_GmJigSaw", [this] { Start(PuzzleKind::JigSaw); });
     menu->addSeparator();
@@ -26,6 +26,8 @@ GameMenu::GameMenu(const Rooms& rooms, QMenu* menu, QWidget* picture,
     MNU_GmPzSize->setObjectName(QStringLiteral("MNU_GmPzSize"));
     BuildSizes();
     MNU_GmPicture = Entry(menu, "MNU_GmPicture", [this] { MNU_GmPicture_Click(); });
+    MNU_Large = Entry(menu, "MNU_Large", [this] { hooks_.RoomChanged(); });
+    MNU_Large->setCheckable(true);
     menu->addSeparator();
     MNU_GmQuit = Entry(menu, "MNU_GmQuit", [this] { Quit(); });
     area_->installEventFilter(this);
@@ -61,6 +63,7 @@ void GameMenu::LoadCaptions() {
     MNU_GmJigSaw->setText(Words(ProgramText::MenuGameJigSaw));
     MNU_GmPzSize->setTitle(Words(ProgramText::MenuGameSize));
     MNU_GmPicture->setText(Words(ProgramText::MenuGamePicture));
+    MNU_Large->setText(Words(ProgramText::MenuGameLarge));
     MNU_GmQuit->setText(Words(ProgramText::MenuGameQuit));
     SetTexts();
 }
@@ -93,8 +96,9 @@ void GameMenu::MNU_GmPicture_Click() {
 }
 
 QImage GameMenu::Picture() const {
-    const std::string path = pzPicture_.empty() ? month_() : pzPicture_;
+    const std::string path = pzPicture_.empty() ? hooks_.MonthPicture() : pzPicture_;
     const QSize area = area_->size() * area_->devicePixelRatioF();
+    const BusyCursor busy;
     const auto read = OutcomeBeside([path = ToQt(path), area] { return ReadPicture(path, area); });
     if (!read || !read->Ok()) {
         return {};
@@ -108,18 +112,26 @@ void GameMenu::Start(PuzzleKind kind) {
         view_->Finished = [this] {
             ShowState();
             area_->window()->setFocus();
+            hooks_.RoomChanged();
         };
         SetTexts();
     }
     view_->setGeometry(area_->rect());
     view_->SetShape(rooms_.Settings.KeepAspect != 0 ? PuzzleShape::Keep : PuzzleShape::Fill);
-    const Status started = view_->Start(Picture(), side_, kind);
+    const QImage picture = Picture();
+    if (!view_) {
+        return; // the program has ended meanwhile
+    }
+    hooks_.EndFilm(); // one may have begun meanwhile, too
+    view_->raise();
+    const Status started = view_->Start(picture, side_, kind);
     if (!started) {
         rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
                            TextOf(rooms_.Texts, ProgramText::PuzzleUnsuitable),
                            DialogIcon::Critical});
     }
     ShowState();
+    hooks_.RoomChanged();
 }
 
 void GameMenu::Quit() {

@@ -28,8 +28,14 @@ public:
         PieceFiles& Files;
     };
 
-    // `picture` is where the puzzle is played; `month` gives the path of the picture on show.
-    GameMenu(const Rooms& rooms, QMenu* menu, QWidget* picture, std::function<std::string()> month);
+    struct Hooks {
+        std::function<std::string()> MonthPicture; // the path of the picture on show
+        std::function<void()> EndFilm;             // a game is to have its place
+        std::function<void()> RoomChanged;         // a game has come to want the window, or not
+    };
+
+    // `picture` is where the puzzle is played.
+    GameMenu(const Rooms& rooms, QMenu* menu, QWidget* picture, Hooks hooks);
 
     void LoadCaptions();
 
@@ -37,6 +43,9 @@ public:
     void Quit();
 
     [[nodiscard]] bool IsRunning() const { return view_ && view_->IsRunning(); }
+
+    // Whether a game is on that is to have the window to itself.
+    [[nodiscard]] bool WantsWindow() const { return IsRunning() && MNU_Large->isChecked(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -54,7 +63,7 @@ private:
 
     Rooms rooms_;
     QWidget* area_;
-    std::function<std::string()> month_;
+    Hooks hooks_;
     QPointer<PuzzleView> view_; // made with the first game; the picture it lies on owns it
     int side_ = kPuzzleSizes.front().Side();
     std::string pzPicture_; // PzPicture: the user's own picture; empty for the month's
@@ -64,6 +73,7 @@ private:
     QAction* MNU_GmStart = nullptr;
     QAction* MNU_GmJigSaw = nullptr;
     QAction* MNU_GmPicture = nullptr;
+    QAction* MNU_Large = nullptr;
     QAction* MNU_GmQuit = nullptr;
 };
 

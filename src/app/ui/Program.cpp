@@ -50,7 +50,8 @@ Program::Program(Orders orders, InstanceLink& link)
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
                 media_, dialogs_, shell_, clock_, pieces_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
-                [this] { KeepMenuChoices(); }, [this](int index) { ChangeLanguage(index); },
+                [this] { KeepMenuChoices(); }, [this] { KeepVideoChoices(); },
+                [this] { ShowVideoChoices(); }, [this](int index) { ChangeLanguage(index); },
                 [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
                 [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
@@ -233,10 +234,22 @@ void Program::SettleChoices() {
 // A choice made in a menu is kept at once; those made in the settings window wait for "O.K.".
 void Program::KeepMenuChoices() {
     kept_.Week = settings_.Week;
-    kept_.VideoFullScreen = settings_.VideoFullScreen;
-    kept_.VideoRepeat = settings_.VideoRepeat;
     kept_.LanguageIndex = settings_.LanguageIndex;
     (void)settingsStore_.SaveSettings(kept_); // shows its failure
+    if (settingsWindow_ && settingsWindow_->isVisible()) {
+        settingsWindow_->ShowRecord();
+    }
+}
+
+void Program::KeepVideoChoices() {
+    kept_.VideoFullScreen = settings_.VideoFullScreen;
+    kept_.VideoRepeat = settings_.VideoRepeat;
+    KeepMenuChoices();
+}
+
+// What a reminder sets holds until the user chooses anew.
+void Program::ShowVideoChoices() {
+    formCal_.ApplySettings();
     if (settingsWindow_ && settingsWindow_->isVisible()) {
         settingsWindow_->ShowRecord();
     }
@@ -281,10 +294,10 @@ void Program::FirstDrawn() {
     tick_.SetFirstDraw(false);
     // The window is to be seen before a delivery makes the pass wait.
     QTimer::singleShot(0, &formCal_, [this] {
-        tick_.DoTimer();
         if (!mediaFile_.empty()) {
-            (void)media_.PlayReminder(mediaFile_); // nothing else plays yet
+            (void)media_.PlayReminder(mediaFile_);
         }
+        tick_.DoTimer();
     });
 }
 

@@ -45,7 +45,7 @@ class Program : private ClockWindows, private ReminderDetails, private SettingsA
 public:
     struct Orders {
         std::string DataFolder; // the program folder, ending in the separator
-        std::string MediaFile;  // played when the window is first shown, unless it is empty
+        std::string MediaFile;  // played once the program is up, unless it is empty
         std::string CdDevice;   // a drive or the image of a disc; empty: the machine's own drive
     };
 
@@ -81,6 +81,8 @@ private:
     void ReloadLanguage();
     void SettleChoices();
     void KeepMenuChoices();
+    void KeepVideoChoices();
+    void ShowVideoChoices();
     void LanguageSaved();
     void TextsChanged(const StringTable& before);
     void OpenSettings();

@@ -4,24 +4,14 @@
 
 #include "language/Texts.h"
 #include "media/PictureReplace.h"
+#include "media/ui/BusyCursor.h"
 #include "media/ui/PictureReader.h"
 #include "media/ui/WaitBeside.h"
 #include "platform/qt/QtText.h"
 
-#include <QApplication>
-
 namespace kestrova {
 
 namespace {
-
-// Shows that the user has to wait, for as long as it lives.
-class BusyCursor {
-public:
-    BusyCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
 
 // What is left to say when a disc has not answered.
 Error NoAnswer() {
@@ -41,11 +31,12 @@ void Program::ShowPictureFault(ProgramText what, const Error& error, const std::
 }
 
 void Program::ChPic(std::optional<int> day) {
+    const int month = dates_.PageMonth; // the clock may show another while the user chooses
     const auto path = dialogs_.OpenFile("", TextOf(texts_, ProgramText::PictureFilter));
     if (!path) {
         return;
     }
-    const PictureChoice choice{dates_.PageMonth, day, *path};
+    const PictureChoice choice{month, day, *path};
     const auto replaced = [&] {
         const BusyCursor busy;
         return OutcomeBeside([choice, now = clock_.Now(), folder = dataFolder_] {
@@ -80,8 +71,9 @@ void Program::SavePic() {
         });
     }();
     if (!saved || !saved->Ok()) {
-        ShowPictureFault(ProgramText::PictureNotSaved, saved ? saved->Failure() : NoAnswer(),
-                         *path);
+        const Error error = saved ? saved->Failure() : NoAnswer();
+        const bool unread = error.Code == ErrorCode::Damaged || error.Code == ErrorCode::NotFound;
+        ShowPictureFault(ProgramText::PictureNotSaved, error, unread ? source : *path);
     }
 }
 

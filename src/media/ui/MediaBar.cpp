@@ -190,12 +190,15 @@ void MediaBar::ShowMedia() {
     const bool clip = media_.IsClipPlaying();
     const bool cd = media_.CdWorks();
     const bool on = media_.IsCdOn();
-    setVisible(cd || clip);
+    setVisible(!away_ && (cd || clip));
     ChkCD->setVisible(cd);
     const QSignalBlocker quiet(ChkCD);
     ChkCD->setChecked(on);
-    ChkCD->setText(ToQt(texts_.Text(on ? texts::kOn : texts::kOff)));
-    ChkCD->updateGeometry();
+    const QString caption = ToQt(texts_.Text(on ? texts::kOn : texts::kOff));
+    if (caption != ChkCD->text()) {
+        ChkCD->setText(caption);
+        ChkCD->updateGeometry();
+    }
     for (QToolButton* const button : Ctrl) {
         button->setEnabled(on || clip);
     }
@@ -213,6 +216,11 @@ void MediaBar::ShowMedia() {
         place_->setRange(0, static_cast<int>(std::min(length, 1e8) * kPerSecond));
         place_->setValue(static_cast<int>(std::clamp(media_.Position(), 0.0, 1e8) * kPerSecond));
     }
+}
+
+void MediaBar::SetAway(bool away) {
+    away_ = away;
+    ShowMedia();
 }
 
 void MediaBar::LoadCaptions() {

@@ -28,6 +28,9 @@ public:
     void LoadCaptions();
     void LoadTips(bool on);
 
+    // Away, it does not show itself whatever there is to play.
+    void SetAway(bool away);
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,6 +44,7 @@ private:
     QTimer click_; // a double click begins with a click, which must not act before it is one
     bool doubled_ = false;
     bool tips_ = false;
+    bool away_ = false;
     bool twoRows_ = false;
 
     QGridLayout* grid_;

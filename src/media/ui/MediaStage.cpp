@@ -3,8 +3,8 @@
 
 #include "ui/Look.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -41,6 +41,11 @@ public:
     }
 
 protected:
+    // The tab key goes to the controls, which may have to come first.
+    bool focusNextPrevChild(bool next) override {
+        stage_.ShowControls();
+        return QWidget::focusNextPrevChild(next);
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (!stage_.HandleKey(*event)) {
             QWidget::keyPressEvent(event);
@@ -65,6 +70,7 @@ MediaStage::MediaStage(QWidget* parent, MediaService& media, const StringTable& 
     video_ = new VideoView(Image1, [this](const PixelRows& rows) { return media_.Render(rows); });
     video_->setObjectName(QStringLiteral("Video"));
     video_->DoubleClicked = [this] { media_.LabMusic_DblClick(); };
+    video_->setFocusPolicy(Qt::StrongFocus);
     video_->hide();
     bar_ = new MediaBar(content_, media, texts);
     QVBoxLayout* const column = BareColumn(content_);
@@ -87,19 +93,32 @@ MediaStage::~MediaStage() {
 void MediaStage::ShowMedia() {
     const bool film = media_.Display() == MediaDisplay::Video;
     if (film != video_->isVisibleTo(Image1)) {
-        video_->setVisible(film);
-        video_->setGeometry(Image1->rect());
-        video_->raise();
+        ShowFilm(film);
     }
     bar_->ShowMedia();
     const MediaViewMode view = media_.View();
     if (view != view_) {
+        const bool wasFull = IsFull();
         view_ = view;
-        ShowFull(view == MediaViewMode::Full);
+        if (wasFull != IsFull()) {
+            ShowFull(IsFull());
+        }
         hooks_.ViewChanged();
     }
-    if (full_ && !idle_.isActive()) {
-        bar_->hide(); // which ShowMedia has shown again
+}
+
+// While a film covers a puzzle, the keys are the film's.
+void MediaStage::ShowFilm(bool film) {
+    QWidget* const had = QApplication::focusWidget();
+    video_->setVisible(film);
+    video_->setGeometry(Image1->rect());
+    video_->raise();
+    if (film && had != nullptr && Image1->isAncestorOf(had)) {
+        beforeFilm_ = had;
+        video_->setFocus();
+    } else if (!film && beforeFilm_) {
+        beforeFilm_->setFocus();
+        beforeFilm_ = nullptr;
     }
 }
 
@@ -107,12 +126,21 @@ void MediaStage::ShowFrame() {
     video_->ShowFrame();
 }
 
-void MediaStage::ShowFull(bool full) {
-    if (full == (full_ != nullptr)) {
-        return;
+// A puzzle or film that had the keyboard keeps it when it moves to another window.
+void MediaStage::GiveKeysBack(QWidget* had) {
+    if (had != nullptr && had->isVisible() && Image1->isAncestorOf(had)) {
+        had->setFocus();
+    } else if (IsFull()) {
+        full_->setFocus(); // and not the panel
     }
+}
+
+void MediaStage::ShowFull(bool full) {
+    const QPointer<QWidget> had = QApplication::focusWidget();
     if (full) {
-        full_ = std::make_unique<FullWindow>(*this, media_);
+        if (!full_) {
+            full_ = std::make_unique<FullWindow>(*this, media_);
+        }
         full_->layout()->addWidget(content_);
         full_->setGeometry(window()->screen()->geometry());
         // The panel lies on the picture there, so that its coming and going moves nothing.
@@ -120,7 +148,6 @@ void MediaStage::ShowFull(bool full) {
         bar_->setAutoFillBackground(true);
         full_->showFullScreen();
         full_->activateWindow();
-        full_->setFocus(); // the keys are the film's, not the panel's
         ShowControls();
     } else {
         idle_.stop();
@@ -129,28 +156,29 @@ void MediaStage::ShowFull(bool full) {
         content_->layout()->addWidget(bar_);
         layout()->addWidget(content_);
         content_->show();
-        full_.release()->deleteLater(); // it may be handling the very key that ends it
-        bar_->ShowMedia();
+        full_->hide();
+        bar_->SetAway(false);
         window()->activateWindow();
     }
+    GiveKeysBack(had);
 }
 
 void MediaStage::ShowControls() {
     content_->setCursor(Qt::ArrowCursor);
     idle_.start();
-    bar_->ShowMedia();
+    bar_->SetAway(false);
     bar_->raise();
 }
 
 void MediaStage::HideControls() {
-    if (!full_) {
+    if (!IsFull()) {
         return;
     }
-    if (bar_->underMouse()) {
+    if (bar_->underMouse() || bar_->isAncestorOf(QApplication::focusWidget())) {
         idle_.start();
         return;
     }
-    bar_->hide();
+    bar_->SetAway(true);
     content_->setCursor(Qt::BlankCursor);
 }
 
@@ -158,11 +186,11 @@ bool MediaStage::eventFilter(QObject* watched, QEvent* event) {
     if (watched == Image1 && event->type() == QEvent::Resize) {
         video_->setGeometry(Image1->rect());
         const int height = bar_->sizeHint().height();
-        if (full_) {
+        if (IsFull()) {
             bar_->setGeometry(0, content_->height() - height, content_->width(), height);
         }
     }
-    if (event->type() == QEvent::MouseMove && full_) {
+    if (event->type() == QEvent::MouseMove && IsFull()) {
         ShowControls();
     }
     return QWidget::eventFilter(watched, event);

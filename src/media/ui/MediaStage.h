@@ -6,10 +6,12 @@
 #include "media/ui/PictureBox.h"
 #include "media/ui/VideoView.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 class QVBoxLayout;
 
@@ -22,6 +24,7 @@ public:
     struct Hooks {
         std::function<void()> ViewChanged; // half view begins or ends
         std::function<void()> BringUp;
+        std::function<void()> SettingsChanged; // by a reminder
     };
 
     MediaStage(QWidget* parent, MediaService& media, const StringTable& texts, Hooks hooks);
@@ -38,6 +41,7 @@ public:
     void ShowMedia() override;
     void ShowFrame() override;
     void BringUp() override { hooks_.BringUp(); }
+    void SettingsChanged() override { hooks_.SettingsChanged(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -46,6 +50,9 @@ private:
     class FullWindow;
 
     void ShowFull(bool full);
+    [[nodiscard]] bool IsFull() const { return view_ == MediaViewMode::Full; }
+    void ShowFilm(bool film);
+    void GiveKeysBack(QWidget* had);
     void ShowControls();
     void HideControls();
 
@@ -53,7 +60,9 @@ private:
     Hooks hooks_;
     MediaViewMode view_ = MediaViewMode::Normal;
     QTimer idle_; // how long the mouse has rested in the full view
+    // Made with the first full view and kept: a message may have been opened over it.
     std::unique_ptr<FullWindow> full_;
+    QPointer<QWidget> beforeFilm_; // what had the keyboard
 
     QWidget* content_; // moves between this and the full view
     PictureBox* Image1;

@@ -56,13 +56,6 @@ void PictureBox::SetPicture(const QString& path) {
     }
 }
 
-void PictureBox::Reload() {
-    mark_ = MarkOf(path_);
-    if (painted_) {
-        Load();
-    }
-}
-
 void PictureBox::SetFit(PictureFit fit) {
     fit_ = fit;
     update();

@@ -26,9 +26,6 @@ public:
     // path leaves the picture as it is.
     void SetPicture(const QString& path);
 
-    // Reads the file once more, whatever its date says.
-    void Reload();
-
     void SetFit(PictureFit fit);
 
     // Whether a picture is shown, and the file that it is from.

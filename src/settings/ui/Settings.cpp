@@ -8,6 +8,7 @@
 #include "settings/ListChoices.h"
 #include "settings/SettingsRules.h"
 #include "ui/ElidedLabel.h"
+#include "ui/PlainTip.h"
 #include "ui/ScrolledContent.h"
 
 #include <QFileInfo>
@@ -113,7 +114,7 @@ void Settings::ShowChime() {
     const bool file = ChimeTypeOf(record, rooms_.Texts) == ChimeType::Chime;
     const QString path = file ? ToQt(record.ChimeSound) : QString();
     LabChime->setText(QFileInfo(path).fileName());
-    LabChime->setToolTip(path);
+    LabChime->setToolTip(PlainTip(path));
     LabChime->setVisible(file);
 }
 

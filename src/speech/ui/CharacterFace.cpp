@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "speech/ui/CharacterFace.h"
 
+#include "platform/qt/Compositing.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,20 +11,20 @@ namespace kestrova {
 
 namespace {
 
-// How opaque a pixel must be to belong to the window. Where the desktop puts windows together, what
-// is fainter is not missed; where it does not, what is fainter would be a black seam.
-constexpr int kSeen = 48;
+// How opaque a pixel must be to belong to the window: where nothing shows through windows, what is
+// fainter would be a black seam.
+constexpr int kFaintest = 1;
+constexpr int kFaintestAlone = 128;
 
 constexpr std::array<std::string_view, kMouthShapes> kMouthLayers = {
     "mouth-closed", "mouth-small", "mouth-wide", "mouth-open", "mouth-round", "mouth-teeth"};
 
-bool IsSeen(const QImage& image, int x, int y, int width, int height) {
-    const int right = std::min(x + width, image.width());
-    const int bottom = std::min(y + height, image.height());
-    for (int row = y; row < bottom; ++row) {
+bool IsSeen(const QImage& image, const QRect& block, int faintest) {
+    const QRect inside = block & image.rect();
+    for (int row = inside.top(); row <= inside.bottom(); ++row) {
         const auto* const pixels = reinterpret_cast<const QRgb*>(image.constScanLine(row));
-        if (std::any_of(pixels + x, pixels + right,
-                        [](QRgb pixel) { return qAlpha(pixel) >= kSeen; })) {
+        if (std::any_of(pixels + inside.left(), pixels + inside.right() + 1,
+                        [faintest](QRgb pixel) { return qAlpha(pixel) >= faintest; })) {
             return true;
         }
     }
@@ -34,13 +36,18 @@ bool IsSeen(const QImage& image, int x, int y, int width, int height) {
 QRegion SeenRegion(const QImage& image) {
     const qreal scale = image.devicePixelRatio();
     const QSize size = image.deviceIndependentSize().toSize();
+    const int faintest = IsComposited() ? kFaintest : kFaintestAlone;
     const int block = static_cast<int>(std::ceil(scale));
-    const auto at = [scale](int place) { return static_cast<int>(place * scale); };
+    const auto isSeen = [&](int x, int y) {
+        return IsSeen(image,
+                      {static_cast<int>(x * scale), static_cast<int>(y * scale), block, block},
+                      faintest);
+    };
     std::vector<QRect> spans;
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             const int begin = x;
-            while (x < size.width() && IsSeen(image, at(x), at(y), block, block)) {
+            while (x < size.width() && isSeen(x, y)) {
                 ++x;
             }
             if (x > begin) {

@@ -45,6 +45,14 @@ bool CharacterWidget::Prepare(const QSize& size) {
     return true;
 }
 
+QRect CharacterWidget::SeenRect() const {
+    const QRect body = face_.Region({}).boundingRect();
+    const QRect whole = rect();
+    return QRect(QPoint((body.left() + whole.left()) / 2, body.top()),
+                 QPoint((body.right() + whole.right()) / 2, body.bottom()))
+        .translated(pos());
+}
+
 void CharacterWidget::SetPose(const CharacterPose& pose) {
     const CharacterPose before = std::exchange(pose_, pose);
     if (before == pose || face_.IsEmpty()) {

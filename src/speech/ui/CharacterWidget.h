@@ -23,6 +23,10 @@ public:
     // Draws it in a size; false when nobody can.
     [[nodiscard]] bool Prepare(const QSize& size);
 
+    // Where it is to be seen, in units of the screen. An arm that it only stretches out at times
+    // counts half.
+    [[nodiscard]] QRect SeenRect() const;
+
     // Gives the pictures of the layers back, until it is prepared anew.
     void Forget() { face_ = CharacterFace(); }
 

@@ -25,6 +25,7 @@ constexpr int kGestureTurns = 2;  // there and back
 constexpr int kBlinkEvery = 2500; // milliseconds at least, twice of that at most
 constexpr auto kEyesClosed = 130ms;
 constexpr auto kLinger = 700ms;
+constexpr auto kBalloonStays = 4s;     // after the words, where the character stays
 constexpr auto kProgressEvery = 250ms; // for a balloon that moves on
 constexpr double kOutOfStep = 0.04;    // seconds that one sees
 
@@ -36,13 +37,14 @@ std::chrono::milliseconds Milliseconds(double seconds) {
 
 DesktopStage::DesktopStage(VectorArt& art) : art_(art) {
     gesture_.setInterval(kGestureFrame);
-    for (QTimer* const once : {&blink_, &mouth_, &timeUp_, &leave_}) {
+    for (QTimer* const once : {&blink_, &mouth_, &timeUp_, &quiet_, &leave_}) {
         once->setSingleShot(true);
     }
     QObject::connect(&gesture_, &QTimer::timeout, &gesture_, [this] { NextGestureFrame(); });
     QObject::connect(&blink_, &QTimer::timeout, &blink_, [this] { Blink(); });
     QObject::connect(&mouth_, &QTimer::timeout, &mouth_, [this] { FollowWords(); });
     QObject::connect(&leave_, &QTimer::timeout, &leave_, [this] { Leave(); });
+    QObject::connect(&quiet_, &QTimer::timeout, &quiet_, [this] { balloon_->hide(); });
     QObject::connect(&timeUp_, &QTimer::timeout, &timeUp_, [this] {
         if (const auto timeUp = events_.TimeUp) {
             timeUp();
@@ -50,9 +52,9 @@ DesktopStage::DesktopStage(VectorArt& art) : art_(art) {
     });
 }
 
-void DesktopStage::Load(const CharacterFigure& figure) {
+void DesktopStage::Load(CharacterFigure figure) {
     Unload();
-    figure_ = figure;
+    figure_ = std::move(figure);
 }
 
 void DesktopStage::Unload() {
@@ -101,6 +103,7 @@ void DesktopStage::Hide() {
 
 void DesktopStage::Leave() {
     leave_.stop();
+    quiet_.stop();
     gesture_.stop();
     if (window_) {
         balloon_->hide();
@@ -138,7 +141,7 @@ QRect DesktopStage::ScreenOf(const QRect& figure) const {
 }
 
 void DesktopStage::PlaceBalloonWindow() {
-    balloon_->ShowBeside(ScreenOf(window_->geometry()), window_->geometry());
+    balloon_->ShowBeside(ScreenOf(window_->geometry()), window_->SeenRect());
 }
 
 void DesktopStage::Clicked() {
@@ -201,6 +204,7 @@ void DesktopStage::Say(const Saying& saying, double limit) {
     nextMouth_ = 0;
     clockBegin_ = 0;
     clock_.start();
+    quiet_.stop();
     timeUp_.start(Milliseconds(limit));
     if (visible_) {
         balloon_->SetWords(ToQt(saying.Words));
@@ -256,6 +260,9 @@ void DesktopStage::EndSaying() {
     timeUp_.stop();
     mouth_.stop();
     SetMouth(MouthShape::Closed);
+    if (visible_ && balloon_->isVisible()) {
+        quiet_.start(kBalloonStays);
+    }
 }
 
 } // namespace kestrova

@@ -26,7 +26,7 @@ public:
     void SetNeighbour(QWidget* window) { neighbour_ = window; }
 
     void SetEvents(Events events) override { events_ = std::move(events); }
-    void Load(const CharacterFigure& figure) override;
+    void Load(CharacterFigure figure) override;
     void Unload() override;
     void Show() override;
     void Hide() override;
@@ -70,6 +70,7 @@ private:
     QTimer blink_;
     QTimer mouth_;
     QTimer timeUp_;
+    QTimer quiet_;
     QTimer leave_;
 };
 

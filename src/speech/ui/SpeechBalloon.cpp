@@ -14,13 +14,13 @@ namespace kestrova {
 namespace {
 
 constexpr int kTail = 18;      // how far it stands out, in pixels
-constexpr int kTailRoot = 20;  // how broad it begins
+constexpr int kTailRoot = 16;  // how broad it begins
 constexpr int kPadding = 14;   // around the words
 constexpr int kWidest = 270;   // of the words
 constexpr int kNarrowest = 60; // of the words
 constexpr double kRim = 1.5;   // of the line around
 constexpr double kRimStrength = 0.55;
-constexpr double kRadius = 16;
+constexpr double kRadius = 11;
 
 } // namespace
 
@@ -119,8 +119,10 @@ QPainterPath SpeechBalloon::Outline() const {
     QPainterPath tail;
     const qreal half = kTailRoot / 2.0;
     tail.moveTo(half, root - half);
-    tail.quadTo(-kTail / 3.0, root - half / 3, -kTail, tip);
-    tail.quadTo(-kTail / 4.0, root + half / 3, half, root + half);
+    tail.lineTo(0, root - half);
+    tail.quadTo(-kTail / 3.0, root - half / 2, -kTail, tip);
+    tail.quadTo(-kTail / 2.0, root + half / 2, 0, root + half);
+    tail.lineTo(half, root + half);
     tail.closeSubpath();
     QTransform turn;
     switch (place_.Tail) {

@@ -27,6 +27,7 @@ public:
 
     [[nodiscard]] int Lines() const { return text_.lineCount(); }
     [[nodiscard]] int TopLine() const { return topLine_; }
+    [[nodiscard]] QRect BodyRect() const { return Body().toAlignedRect(); } // without the tail
 
 protected:
     void paintEvent(QPaintEvent* event) override;

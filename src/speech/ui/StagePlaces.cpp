@@ -2,20 +2,14 @@
 #include "speech/ui/StagePlaces.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <limits>
 
 namespace kestrova {
 
 namespace {
 
 constexpr int kFromEdge = 12;    // between a figure and the edges of the screen, in pixels
-constexpr int kNoNearer = 10;    // per cent of the screen within which no side is the nearer one
 constexpr int kMouthHeight = 42; // per cent of the figure, from the top
-
-// Whether the first side (left, top) is the nearer one.
-bool IsFirstNearer(int middle, int begin, int length) {
-    return middle < begin + length / 2 - length * kNoNearer / 100;
-}
 
 int Within(int value, int low, int high) {
     return std::max(low, std::min(value, high));
@@ -30,15 +24,22 @@ QRect OnScreen(const QRect& screen, QRect figure) {
 }
 
 QRect FigurePlace(const QRect& screen, const QRect& window, const QSize& size) {
-    const QPoint middle = window.isValid() ? window.center() : screen.bottomRight();
-    QRect figure({}, size);
-    figure.moveTo(IsFirstNearer(middle.x(), screen.x(), screen.width())
-                      ? screen.x() + kFromEdge
-                      : screen.x() + screen.width() - size.width() - kFromEdge,
-                  IsFirstNearer(middle.y(), screen.y(), screen.height())
-                      ? screen.y() + kFromEdge
-                      : screen.y() + screen.height() - size.height() - kFromEdge);
-    return OnScreen(screen, figure);
+    const QRect area = screen.adjusted(kFromEdge, kFromEdge, -kFromEdge, -kFromEdge);
+    QRect best({}, size);
+    best.moveBottomRight(area.bottomRight());
+    int shortest = std::numeric_limits<int>::max();
+    for (const QPoint corner :
+         {area.bottomRight(), area.bottomLeft(), area.topRight(), area.topLeft()}) {
+        QRect figure({}, size);
+        figure.moveTo(corner.x() == area.left() ? area.left() : corner.x() - size.width() + 1,
+                      corner.y() == area.top() ? area.top() : corner.y() - size.height() + 1);
+        const int way = (figure.center() - window.center()).manhattanLength();
+        if (window.isValid() && !figure.intersects(window) && way < shortest) {
+            shortest = way;
+            best = figure;
+        }
+    }
+    return OnScreen(screen, best);
 }
 
 BalloonPlace PlaceBalloon(const QRect& screen, const QRect& figure, const QSize& size, int tail) {

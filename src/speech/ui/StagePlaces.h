@@ -5,8 +5,9 @@
 
 namespace kestrova {
 
-// Where a figure of this size stands: in the corner of the screen that is nearest to a window, the
-// lower right one when none is nearer than the others.
+// Where a figure of this size stands: in the corner of the screen that is nearest to a window
+// without covering any of it. Where all of them do, or there is no window, it is the lower right
+// one.
 [[nodiscard]] QRect FigurePlace(const QRect& screen, const QRect& window, const QSize& size);
 
 // A figure moved as little as it takes to be on the screen as a whole.

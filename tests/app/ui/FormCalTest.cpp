@@ -54,8 +54,9 @@ struct MonthScene : DiaryScene {
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces},
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
-                    [this] { ++SettingsSaved; }, [](int) {}, [this] { Window.LoadCaptions(); },
-                    [this] { ++FirstDrawn; }, [this](int minutes) { Countdown = minutes; }, [] {},
+                    [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; }, [] {}, [](int) {},
+                    [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
+                    [this](int minutes) { Countdown = minutes; }, [] {},
                     [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {},
                     [this] { ++Quits; }}};
 

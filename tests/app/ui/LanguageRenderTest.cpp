@@ -153,8 +153,8 @@ TEST_P(LanguageRenderTest, TheMonth) {
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
                    all.Pieces},
-                  {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
-                   [] {}, [] {}, [] {}, [] {}});
+                  {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
+                   [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);

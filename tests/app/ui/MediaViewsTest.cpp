@@ -5,13 +5,16 @@
 #include "diary/DiaryScene.h"
 #include "fakes/CountingBeeper.h"
 #include "fakes/FakeMedia.h"
+#include "platform/posix/PosixFileStore.h"
 #include "platform/qt/QtText.h"
 #include "speech/UnavailableSpeaker.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSlider>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -36,11 +39,13 @@ struct PanelScene : DiaryScene {
     CountingBeeper Bell;
     MediaService Media{{Devices, Files, Bell, Texts, Settings}, [](const std::string&) {}};
     NoShell Desktop;
-    PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
+    QTemporaryDir Scratch; // pieces are read back from a real disc
+    PosixFileStore Disc;
+    PieceFiles Pieces{Disc, PlainScratchWriter(Disc), FromQt(Scratch.path()) + "/"};
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces},
-                   {[](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
-                    [] {}, [] {}, [] {}, [] {}}};
+                   {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
+                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}}};
 
     explicit PanelScene(const std::string& drive = "/dev/cdrom") {
         Devices.Installed = true;
@@ -149,8 +154,37 @@ TEST(MediaViewsTest, HalfAndFullViewComeAndGo) {
     EXPECT_EQ(PanelScene::FullView(), nullptr) << "closed by the window manager";
     EXPECT_TRUE(scene.Sees("Video")) << "the film goes on in the window";
     scene.Media.LabMusic_DblClick();
+    QMessageBox over(PanelScene::FullView());
+    over.show();
     scene.Devices.Films->End(MediaEnd::Finished);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(PanelScene::FullView(), nullptr);
+    EXPECT_TRUE(over.isVisible()) << "a message is not taken away unread";
+}
+
+TEST(MediaViewsTest, AGameAndAFilmGiveWayToOneAnother) {
+    PanelScene scene;
+    QImage picture(90, 90, QImage::Format_RGB888);
+    picture.fill(Qt::darkCyan);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("May.png"));
+    ASSERT_TRUE(picture.save(path));
+    scene.Pictures.MonthPicture[4] = FromQt(path);
+    scene.PlayFilm();
+    scene.Find<QAction>("MNU_Large")->trigger();
+    EXPECT_TRUE(scene.Sees("LabCurMth"));
+    scene.Find<QAction>("MNU_GmJigSaw")->trigger();
+    EXPECT_TRUE(scene.Boxes.Shown.empty());
+    EXPECT_FALSE(scene.Devices.Films->Playing);
+    EXPECT_FALSE(scene.Sees("LabCurMth")) << "a large game has the window";
+    scene.PlayFilm();
+    EXPECT_TRUE(scene.Find("Video")->hasFocus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_TRUE(scene.Devices.Films->Paused);
+    scene.Devices.Films->End(MediaEnd::Finished);
+    EXPECT_FALSE(scene.Find("Video")->hasFocus()) << "the game goes on";
+    scene.Find<QAction>("MNU_GmQuit")->trigger();
+    EXPECT_TRUE(scene.Sees("LabCurMth"));
 }
 
 TEST(MediaViewsTest, HidingTheWindowEndsWhatPlays) {

@@ -39,7 +39,7 @@ public:
 
 } // namespace
 
-extern "C" [[gnu::visibility("default")]] MediaFactory* KestrovaMedia1() {
+extern "C" [[gnu::visibility("default")]] MediaFactory* KestrovaMedia2() {
     static LinuxMedia media;
     return &media;
 }

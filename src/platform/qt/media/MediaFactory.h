@@ -26,6 +26,6 @@ public:
 // changes one of the interfaces above changes the number in the name, so that a module of another
 // version is refused instead of called.
 using MediaEntry = MediaFactory* (*)();
-inline constexpr const char* kMediaEntryName = "KestrovaMedia1";
+inline constexpr const char* kMediaEntryName = "KestrovaMedia2";
 
 } // namespace kestrova

@@ -2,6 +2,7 @@
 #include "platform/qt/media/MpvPlayer.h"
 
 #include "platform/qt/media/LocalFile.h"
+#include "platform/qt/media/MemoryBytes.h"
 
 #include <mpv/client.h>
 #include <mpv/render.h>
@@ -89,6 +90,11 @@ bool MpvPlayer::Start() {
 
 void MpvPlayer::Play(const std::string& path) {
     Begin([path] { return LocalFile::Open(path); }, HintOf(path), 0);
+}
+
+void MpvPlayer::PlayBytes(std::string wave) {
+    const auto bytes = std::make_shared<const std::string>(std::move(wave));
+    Begin([bytes] { return MemoryBytes::Open(bytes); }, "bytes.wav", 0);
 }
 
 void MpvPlayer::Begin(SourceOpener opener, const std::string& name, double seconds) {

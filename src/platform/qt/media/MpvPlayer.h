@@ -34,6 +34,7 @@ public:
     [[nodiscard]] const Error& Trouble() const { return trouble_; }
 
     void Play(const std::string& path) override;
+    void PlayBytes(std::string wave) override;
     void Stop() override;
     [[nodiscard]] bool IsPlaying() const override { return playing_; }
     void SetPaused(bool paused) override;

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <csignal>
 #include <cstring>
+#include <sys/prctl.h>
 
 namespace kestrova {
 
@@ -25,6 +26,11 @@ double SampleAt(const QByteArray& stereo, qsizetype frame) {
     std::int16_t sample = 0;
     std::memcpy(&sample, stereo.constData() + frame * kFrameBytes, sizeof sample);
     return sample / 32768.0;
+}
+
+// A test that crashes leaves no server behind.
+void EndWithUs(QProcess& process) {
+    process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
 qsizetype LastSound(const QByteArray& stereo) {
@@ -104,6 +110,7 @@ LoopbackSound::~LoopbackSound() {
 
 bool LoopbackSound::Start() {
     server_ = std::make_unique<QProcess>();
+    EndWithUs(*server_);
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder_.path());
     environment.insert(QStringLiteral("HOME"), folder_.path());
@@ -151,6 +158,7 @@ void LoopbackSound::Hang() {
 bool LoopbackSound::Record() {
     recorded_.clear();
     recorder_ = std::make_unique<QProcess>();
+    EndWithUs(*recorder_);
     QObject::connect(recorder_.get(), &QProcess::readyReadStandardOutput, recorder_.get(),
                      [this] { recorded_ += recorder_->readAllStandardOutput(); });
     recorder_->start(QStringLiteral("parec"),
