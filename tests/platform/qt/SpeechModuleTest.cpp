@@ -15,7 +15,7 @@
 namespace kestrova {
 namespace {
 
-constexpr VoiceChoice kEnglish{"en", 50, 100};
+const VoiceChoice kEnglish{"en", 50, 100};
 
 double Seconds(const SpokenSound& sound) {
     return static_cast<double>(sound.Samples.size()) / sound.Rate;
