@@ -29,6 +29,15 @@ public:
     // The names of the speaking characters that there are.
     [[nodiscard]] virtual std::vector<std::string> Characters() const = 0;
 
+    // Looks again which there are.
+    virtual void CheckCharacter() = 0;
+
+    // Why files among the characters are not on the list, a sentence for each.
+    [[nodiscard]] virtual std::vector<std::string> LeftOutCharacters() const = 0;
+
+    // Whether what speaking takes is installed; offers help when not.
+    virtual void CheckSpeech() = 0;
+
     // Loads the character that the settings name; false when none can be had.
     virtual bool LoadCharacter() = 0;
 

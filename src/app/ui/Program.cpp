@@ -4,6 +4,7 @@
 #include "app/Navigation.h"
 #include "diary/RollOver.h"
 #include "language/Texts.h"
+#include "mail/Invitation.h"
 #include "platform/posix/ComPorts.h"
 #include "platform/posix/FolderAnswers.h"
 #include "platform/qt/DataFolder.h"
@@ -31,9 +32,13 @@ Program::Program(Orders orders, InstanceLink& link)
       mailModule_(MailModule::ShippedPath()),
       mail_({mailModule_, mailModule_, files_, clock_, loop_, dialogs_, texts_},
             dataFolder_ + "Mail.dat"),
-      mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)), texts_(MsgDefaults()),
-      settings_(FirstSettings(texts_)), media_({mediaDevices_, files_, beeper_, texts_, settings_},
-                                               [this](const std::string& text) { Tell(text); }),
+      mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
+      voices_(SpeechModule::ShippedPath()), stage_(voices_), texts_(MsgDefaults()),
+      settings_(FirstSettings(texts_)),
+      speech_({voices_, mediaDevices_, stage_, loop_, clock_, files_, dialogs_, shell_, texts_,
+               settings_, dataFolder_, std::string(kWebAddress)}),
+      media_({mediaDevices_, files_, beeper_, texts_, settings_},
+             [this](const std::string& text) { Tell(text); }),
       pieces_(files_, PlainScratchWriter(files_), dataFolder_),
       languages_(files_, dataFolder_ + "Lan.dat", texts_),
       settingsStore_(files_, clock_, dialogs_, texts_, dataFolder_ + "Settings.dat"),
@@ -57,6 +62,7 @@ Program::Program(Orders orders, InstanceLink& link)
                 [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
                 [this] { mail_.TellAFriend(); }, [this] { mail_.OpenAccount(); },
                 [this] { End(); }}) {
+    stage_.SetNeighbour(&formCal_);
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
     FillStartUp();
@@ -112,7 +118,13 @@ void Program::FillFirstSteps() {
         kept_ = settings_;
     });
     startUp_.Fill(StartUpStep::GetLanguage, [this] { ReloadLanguage(); });
+    startUp_.Fill(StartUpStep::FileCleanUp, [this] { speech_.FileCleanUp(); });
+    startUp_.Fill(StartUpStep::CheckCharacter, [this] {
+        speech_.CheckCharacter();
+        kept_.CharacterName = settings_.CharacterName;
+    });
     startUp_.Fill(StartUpStep::LoadCaptions, [this] { LoadCaptions(); });
+    startUp_.Fill(StartUpStep::AgentIni, [this] { speech_.AgentIni(); });
     startUp_.Fill(StartUpStep::ApplySettings, [this] { formCal_.ApplySettings(); });
     // The entry only serves a later "Start on Boot Up", which tells when it cannot be written.
     startUp_.Fill(StartUpStep::GetShortCut, [this] { (void)shortCut_.GetShortCut(settings_); });
@@ -157,8 +169,8 @@ void Program::FillLastSteps() {
         formCal_.ShowMedia();
     });
     startUp_.Fill(StartUpStep::Character, [this] {
-        if (settings_.SpeechEnabled != 0 && !speech_.LoadCharacter()) {
-            settings_.SpeechEnabled = 0;
+        if (settings_.SpeechEnabled != 0) {
+            speech_.LoadMerlin();
         }
         if (settings_.SpeechEnabled == 0) {
             settings_.SpeakPicture = 0;
@@ -271,6 +283,13 @@ void Program::ChangeLanguage(int index) {
     LoadCaptions();
     formCal_.Redraw(FormCal::kSameMonth);
     KeepMenuChoices();
+    CheckSpeech();
+}
+
+void Program::CheckSpeech() {
+    if (settings_.SpeechEnabled != 0) {
+        speech_.CheckSpeech(settings_.LanguageIndex);
+    }
 }
 
 // Choices are held by their texts, so they follow texts that change.

@@ -22,12 +22,14 @@
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtShell.h"
+#include "platform/qt/SpeechModule.h"
 #include "platform/qt/ToolkitTexts.h"
 #include "reminders/ClockTick.h"
 #include "settings/SettingsStore.h"
 #include "settings/ShortCut.h"
 #include "settings/ui/Settings.h"
-#include "speech/UnavailableSpeaker.h"
+#include "speech/SpeakingCharacter.h"
+#include "speech/ui/DesktopStage.h"
 
 #include <QTimer>
 
@@ -119,6 +121,11 @@ private:
         return speech_.Characters();
     }
     bool LoadCharacter() override { return speech_.LoadCharacter(); }
+    void CheckCharacter() override { speech_.CheckCharacter(); }
+    void CheckSpeech() override;
+    [[nodiscard]] std::vector<std::string> LeftOutCharacters() const override {
+        return speech_.LeftOut();
+    }
     void Talk(const std::string& text) override { speech_.Talk(text, AfterSpeaking::Hide); }
     void PortChosen() override { phone_.PortChosen(); }
     std::optional<std::string> FindModem() override;
@@ -144,16 +151,18 @@ private:
     QtShell shell_;
     ToolkitTexts toolkitTexts_;
     InstanceLink& link_;
-    UnavailableSpeaker speech_;
     QtSerialPort serial_;
     VoiceCaller phone_;
     MailModule mailModule_;
     MailDesk mail_;
     MediaModule mediaDevices_;
+    SpeechModule voices_;
+    DesktopStage stage_;
 
     Selection dates_;
     StringTable texts_;
     AppSettings settings_;
+    SpeakingCharacter speech_;
     MediaService media_;
     PieceFiles pieces_;
     AppSettings kept_; // as the user has last said "O.K.", with what the menus have changed since

@@ -129,7 +129,9 @@ bool Program::SaveSettings() {
     }
     ShowTodayMonth();
     if (settings_.SpeechEnabled != 0) {
-        speech_.LoadCharacter();
+        speech_.AgentTer();
+        speech_.AgentIni();
+        speech_.LoadMerlin();
     }
     return saved;
 }

@@ -59,6 +59,7 @@ void Settings::ShowSettings() {
 void Settings::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) {
+        rooms_.Actions.CheckCharacter(); // one may have been put there since
         TextSpch->setText(Words(ProgramText::SpeechSample));
         TextSpch->setCursorPosition(0);
         ShowRecord();
@@ -138,6 +139,13 @@ void Settings::ShowSpeech() {
     }
     CombChr->setCurrentIndex(
         std::max(CombChr->findText(ToQt(rooms_.Record.CharacterName)), some ? 0 : -1));
+    std::string leftOut;
+    for (const std::string& reason : rooms_.Actions.LeftOutCharacters()) {
+        leftOut += (leftOut.empty() ? "" : "\n") + reason;
+    }
+    if (!leftOut.empty()) {
+        CombChr->setToolTip(PlainTip(ToQt(leftOut)));
+    }
     Check[5]->setEnabled(some);
     for (QWidget* const detail :
          {static_cast<QWidget*>(Check[6]), static_cast<QWidget*>(Check[7]),
@@ -171,6 +179,7 @@ void Settings::LoadCaptions() {
     LabColour->setAccessibleName(Words(ProgramText::ColourShown));
     TextSpch->setAccessibleName(Words(ProgramText::TextToSpeak));
     if (!TextSpch->isModified()) {
+        rooms_.Actions.CheckCharacter(); // one may have been put there since
         TextSpch->setText(Words(ProgramText::SpeechSample));
         TextSpch->setCursorPosition(0);
     }
@@ -311,6 +320,7 @@ void Settings::Check5_Click() {
         Check[i]->setChecked(i == 5 && record.SpeechEnabled != 0);
     }
     ShowSpeech();
+    rooms_.Actions.CheckSpeech();
 }
 
 void Settings::Check10_Click() {

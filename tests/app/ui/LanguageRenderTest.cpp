@@ -42,6 +42,9 @@ struct NoActions : SettingsActions {
     void Talk(const std::string& /*text*/) override {}
     std::optional<std::string> FindModem() override { return std::nullopt; }
     void PortChosen() override {}
+    void CheckCharacter() override {}
+    void CheckSpeech() override {}
+    std::vector<std::string> LeftOutCharacters() const override { return {}; }
     bool SoundWorks() const override { return true; }
     void MakeSound(const std::string& /*path*/) override {}
     void ChangeYear() override {}

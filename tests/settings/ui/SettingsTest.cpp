@@ -39,6 +39,9 @@ struct AskedActions : SettingsActions {
     void Talk(const std::string& text) override { Asked.push_back("talk " + text); }
     std::optional<std::string> FindModem() override { return Modem; }
     void PortChosen() override {}
+    void CheckCharacter() override {}
+    void CheckSpeech() override {}
+    std::vector<std::string> LeftOutCharacters() const override { return {}; }
     bool SoundWorks() const override { return Sounds; }
     void MakeSound(const std::string& path) override { Asked.push_back("sound " + path); }
     void ChangeYear() override { Asked.emplace_back("year"); }
