@@ -6,7 +6,7 @@
 #include "fakes/ScriptedDialogs.h"
 #include "fakes/SteppedLoop.h"
 #include "phone/VoiceCaller.h"
-#include "speech/UnavailableSpeaker.h"
+#include "fakes/SilentSpeaker.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ struct TimedLoop : SteppedLoop {
     }
 };
 
-struct TalkedSpeaker : UnavailableSpeaker {
+struct TalkedSpeaker : SilentSpeaker {
     std::vector<std::string> Spoken;
     SpokenSound Voice; // what a recording gives; none while it is empty
     bool Endless = false;

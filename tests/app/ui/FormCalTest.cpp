@@ -4,8 +4,8 @@
 #include "diary/DiaryScene.h"
 #include "fakes/CountingBeeper.h"
 #include "fakes/FakeMedia.h"
+#include "fakes/SilentSpeaker.h"
 #include "platform/qt/QtText.h"
-#include "speech/UnavailableSpeaker.h"
 
 #include <QAction>
 #include <QApplication>
@@ -35,7 +35,7 @@ struct MonthScene : DiaryScene {
     Languages Tongues{Files, "/home/me/Lan.dat", Texts};
     PictureTable Pictures;
     std::string Folder = kFolder;
-    UnavailableSpeaker Speech;
+    SilentSpeaker Speech;
     FakeMediaDevices Devices;
     CountingBeeper Bell;
     std::vector<std::string> Told;

@@ -8,13 +8,13 @@
 #include "diary/ui/SlimComboBox.h"
 #include "fakes/CountingBeeper.h"
 #include "fakes/FakeMedia.h"
+#include "fakes/SilentSpeaker.h"
 #include "language/ItemLists.h"
 #include "language/LanguageFile.h"
 #include "language/ui/LanEditor.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/qt/QtText.h"
 #include "settings/ui/Settings.h"
-#include "speech/UnavailableSpeaker.h"
 #include "ui/ElidedLabel.h"
 
 #include <QGroupBox>
@@ -70,7 +70,7 @@ struct Windows : DiaryScene {
     Languages Tongues{Files, "/home/me/Lan.dat", Texts};
     PictureTable Pictures;
     std::string Folder = kFolder;
-    UnavailableSpeaker Speech;
+    SilentSpeaker Speech;
     FakeMediaDevices Devices;
     CountingBeeper Bell;
     MediaService Media{{Devices, Files, Bell, Texts, Settings}, [](const std::string&) {}};

@@ -5,9 +5,9 @@
 #include "diary/DiaryScene.h"
 #include "fakes/CountingBeeper.h"
 #include "fakes/FakeMedia.h"
+#include "fakes/SilentSpeaker.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/qt/QtText.h"
-#include "speech/UnavailableSpeaker.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -34,7 +34,7 @@ struct PanelScene : DiaryScene {
     Languages Tongues{Files, "/home/me/Lan.dat", Texts};
     PictureTable Pictures;
     std::string Folder = kFolder;
-    UnavailableSpeaker Speech;
+    SilentSpeaker Speech;
     FakeMediaDevices Devices;
     CountingBeeper Bell;
     MediaService Media{{Devices, Files, Bell, Texts, Settings}, [](const std::string&) {}};

@@ -5,8 +5,8 @@
 
 namespace kestrova {
 
-// The speaker of a program that cannot speak: there is no character, and none can be loaded.
-class UnavailableSpeaker : public Speaker {
+// A speaker without a voice: there is no character, and none can be loaded.
+class SilentSpeaker : public Speaker {
 public:
     [[nodiscard]] std::vector<std::string> Characters() const override { return {}; }
     bool LoadCharacter() override { return false; }
