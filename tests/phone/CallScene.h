@@ -4,9 +4,9 @@
 #include "fakes/FakeSerialPort.h"
 #include "fakes/MemoryFileStore.h"
 #include "fakes/ScriptedDialogs.h"
+#include "fakes/SilentSpeaker.h"
 #include "fakes/SteppedLoop.h"
 #include "phone/VoiceCaller.h"
-#include "fakes/SilentSpeaker.h"
 
 #include <gtest/gtest.h>
 
