@@ -90,8 +90,8 @@ struct NoMedia : MediaPanel {
     bool CdWorks() const override { return false; }
     bool ShowsVideo() const override { return false; }
     void MakeSound(const std::string& /*path*/) override {}
-    bool PlayReminder(const std::string& /*path*/) override { return false; }
-    bool PlayCd() override { return false; }
+    void PlayReminder(const std::string& /*path*/) override {}
+    void PlayCd() override {}
     void CleanUp() override {}
 };
 

@@ -20,13 +20,11 @@ public:
     // Plays a sound file, or shows any other media file as video.
     virtual void MakeSound(const std::string& path) = 0;
 
-    // Delivers a media reminder: opens the panel and plays the file. False when it is to be tried
-    // again; a file that will never play has been told.
-    virtual bool PlayReminder(const std::string& path) = 0;
+    // Delivers a media reminder: opens the panel and plays the file, or tells why it cannot.
+    virtual void PlayReminder(const std::string& path) = 0;
 
-    // Delivers a music reminder: starts the CD. False when it is to be tried again; that there is
-    // no player has been told.
-    virtual bool PlayCd() = 0;
+    // Delivers a music reminder: starts the CD, or tells that there is no player.
+    virtual void PlayCd() = 0;
 
     // Ends what is playing before the window goes.
     virtual void CleanUp() = 0;

@@ -215,10 +215,10 @@ std::string MediaService::StatusText() const {
 
 // ---- the reminders ----
 
-bool MediaService::PlayReminder(const std::string& path) {
+void MediaService::PlayReminder(const std::string& path) {
     if (!rooms_.Files.Stamp(path)) {
         tell_(TextOf(rooms_.Texts, ProgramText::MediaGone, path));
-        return true;
+        return;
     }
     if (!cdUnavailable_ && !cdOn_) {
         cdAsked_ = false;
@@ -240,19 +240,17 @@ bool MediaService::PlayReminder(const std::string& path) {
         halfForClip_ = true;
     }
     ShowChange();
-    return true;
 }
 
-bool MediaService::PlayCd() {
+void MediaService::PlayCd() {
     if (cdUnavailable_ || !LoadCd()) {
         tell_(rooms_.Texts.Text(texts::kCdInactive) + "\n" +
               rooms_.Texts.Text(texts::kAtTheMoment));
-        return true;
+        return;
     }
     cdAsked_ = true;
     SwitchCd(true);
     music_->Play();
-    return true;
 }
 
 // ---- the CD ----

@@ -68,8 +68,8 @@ public:
     [[nodiscard]] bool CdWorks() const override { return !cdUnavailable_; }
     [[nodiscard]] bool ShowsVideo() const override { return display_ != MediaDisplay::Picture; }
     void MakeSound(const std::string& path) override;
-    bool PlayReminder(const std::string& path) override;
-    bool PlayCd() override;
+    void PlayReminder(const std::string& path) override;
+    void PlayCd() override;
     void CleanUp() override;
 
     // Plays a file in place of the one before: a film in the picture area, anything else as sound,

@@ -161,8 +161,9 @@ void WmfPlayer::Blit(ByteFields& fields, const WmfBox& part, const WmfBox& box,
     }
 }
 
-void WmfPlayer::DibBitBlt(ByteFields& fields) {
+void WmfPlayer::DibBlit(ByteFields& fields, PartSize partSize) {
     const std::uint32_t operation = fields.UInt32();
+    const WmfPoint own = partSize == PartSize::OfItsOwn ? PointBackwards(fields) : WmfPoint{};
     const WmfPoint from = PointBackwards(fields);
     if (bare_) {
         fields.UInt16();
@@ -173,33 +174,21 @@ void WmfPlayer::DibBitBlt(ByteFields& fields) {
     if (!fields.Ok()) {
         return;
     }
+    const WmfPoint part = partSize == PartSize::OfItsOwn ? own : size;
     if (bare_) {
         FillOnly(box, operation);
     } else {
-        Blit(fields, {from.X, from.Y, from.X + size.X, from.Y + size.Y}, box, operation,
+        Blit(fields, {from.X, from.Y, from.X + part.X, from.Y + part.Y}, box, operation,
              DibColours::Rgb);
     }
 }
 
+void WmfPlayer::DibBitBlt(ByteFields& fields) {
+    DibBlit(fields, PartSize::AsPlaced);
+}
+
 void WmfPlayer::DibStretchBlt(ByteFields& fields) {
-    const std::uint32_t operation = fields.UInt32();
-    const WmfPoint partSize = PointBackwards(fields);
-    const WmfPoint from = PointBackwards(fields);
-    if (bare_) {
-        fields.UInt16();
-    }
-    const WmfPoint size = PointBackwards(fields);
-    const WmfPoint at = PointBackwards(fields);
-    const WmfBox box = Placed(WmfBox{at.X, at.Y, at.X + size.X, at.Y + size.Y});
-    if (!fields.Ok()) {
-        return;
-    }
-    if (bare_) {
-        FillOnly(box, operation);
-    } else {
-        Blit(fields, {from.X, from.Y, from.X + partSize.X, from.Y + partSize.Y}, box, operation,
-             DibColours::Rgb);
-    }
+    DibBlit(fields, PartSize::OfItsOwn);
 }
 
 // Here, and only here, a part is counted from the lower edge of an image whose rows go upwards.

@@ -84,6 +84,9 @@ private:
     void DrawArc(ByteFields& fields, Edge edge);
     void SetPixel(ByteFields& fields);
     void PatBlt(ByteFields& fields);
+    // Whether the part of an image that is copied has a size of its own, to be stretched.
+    enum class PartSize { AsPlaced, OfItsOwn };
+    void DibBlit(ByteFields& fields, PartSize partSize);
     void DibBitBlt(ByteFields& fields);
     void DibStretchBlt(ByteFields& fields);
     void StretchDib(ByteFields& fields);

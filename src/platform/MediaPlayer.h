@@ -26,7 +26,7 @@ struct PixelRows {
     std::ptrdiff_t RowBytes = 0;
 };
 
-// One file playing. Every call returns at once; what it sets going is told through the events,
+// One file playing. No call waits for the file; what it sets going is told through the events,
 // which come on the window's thread and never from within a call.
 class MediaPlayer {
 public:

@@ -141,16 +141,17 @@ ReminderReview::Delivery ReminderReview::Deliver(const DiaryEvent& event, PassKi
     if (!reminder) {
         return Delivery::Pending;
     }
-    const auto result = [](bool delivered) {
-        return delivered ? Delivery::UsedUp : Delivery::Pending;
-    };
     switch (*reminder) {
     case ReminderKind::Screen: return Screen(event, kind);
     case ReminderKind::Speak: return Speak(event, kind);
     case ReminderKind::Phone: return Call(event, kind);
-    case ReminderKind::Media: return result(rooms_.Media.PlayReminder(event.Extra[kMediaFile]));
-    case ReminderKind::Music: return result(rooms_.Media.PlayCd());
-    case ReminderKind::Email: return result(rooms_.Mail.SendMail(event) != MailStatus::TryLater);
+    case ReminderKind::Media:
+        rooms_.Media.PlayReminder(event.Extra[kMediaFile]);
+        return Delivery::UsedUp;
+    case ReminderKind::Music: rooms_.Media.PlayCd(); return Delivery::UsedUp;
+    case ReminderKind::Email:
+        return rooms_.Mail.SendMail(event) == MailStatus::TryLater ? Delivery::Pending
+                                                                   : Delivery::UsedUp;
     case ReminderKind::None: return Delivery::UsedUp;
     }
     return Delivery::Pending;

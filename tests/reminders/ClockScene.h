@@ -70,23 +70,16 @@ struct RecordingMail : ReminderMail {
 };
 
 struct RecordingMedia : MediaPanel {
-    bool Works = true;
     bool Video = false;
     std::vector<std::string> Played;
 
-    bool SoundWorks() const override { return Works; }
-    bool VideoWorks() const override { return Works; }
-    bool CdWorks() const override { return Works; }
+    bool SoundWorks() const override { return true; }
+    bool VideoWorks() const override { return true; }
+    bool CdWorks() const override { return true; }
     bool ShowsVideo() const override { return Video; }
     void MakeSound(const std::string& path) override { Played.push_back(path); }
-    bool PlayReminder(const std::string& path) override {
-        Played.push_back(path);
-        return Works;
-    }
-    bool PlayCd() override {
-        Played.push_back("CD");
-        return Works;
-    }
+    void PlayReminder(const std::string& path) override { Played.push_back(path); }
+    void PlayCd() override { Played.push_back("CD"); }
     void CleanUp() override {}
 };
 

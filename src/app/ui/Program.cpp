@@ -314,7 +314,7 @@ void Program::FirstDrawn() {
     // The window is to be seen before a delivery makes the pass wait.
     QTimer::singleShot(0, &formCal_, [this] {
         if (!mediaFile_.empty()) {
-            (void)media_.PlayReminder(mediaFile_);
+            media_.PlayReminder(mediaFile_);
         }
         tick_.DoTimer();
     });
