@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/FontChoice.h"
+
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kestrova {
 
@@ -25,16 +30,6 @@ struct AnswerCaptions {
     DefaultAnswer Default = DefaultAnswer::Yes;
 };
 
-// A font as the user chooses it.
-struct FontChoice {
-    std::string Family;
-    float Size = 0; // points
-    bool Bold = false;
-    bool Italic = false;
-
-    bool operator==(const FontChoice&) const = default;
-};
-
 // The windows in which the program asks and tells. Each call returns when the user has answered;
 // events, the timer's included, go on meanwhile.
 class Dialogs {
@@ -45,6 +40,11 @@ public:
 
     // True for the first answer. Closing the window is the second.
     virtual bool Ask(const Message& message, const AnswerCaptions& captions) = 0;
+
+    // The index of one of several answers. The first is what Enter gives, closing the window is the
+    // last.
+    virtual std::size_t AskAmong(const Message& message,
+                                 const std::vector<std::string>& captions) = 0;
 
     // One line of text. Nothing when the user cancels.
     virtual std::optional<std::string> Input(const std::string& title, const std::string& prompt,
@@ -62,6 +62,9 @@ public:
 
     // A font of this machine. Nothing when the user cancels.
     virtual std::optional<FontChoice> ChooseFont(const FontChoice& offered) = 0;
+
+    // A colour, red + 256 x green + 65536 x blue. Nothing when the user cancels.
+    virtual std::optional<std::int32_t> ChooseColour(std::int32_t offered) = 0;
 };
 
 } // namespace kestrova

@@ -18,9 +18,11 @@ public:
     std::vector<Message> Asked;
     std::vector<std::string> Prompts;
     std::deque<bool> Answers;
+    std::deque<std::size_t> Choices;
     std::deque<std::optional<std::string>> Inputs;
     std::deque<std::optional<std::string>> Files;
     std::deque<std::optional<FontChoice>> Fonts;
+    std::deque<std::optional<std::int32_t>> Colours;
     std::function<void()> WhileOpen; // called while a message is open
 
     void Show(const Message& message) override {
@@ -36,6 +38,15 @@ public:
             WhileOpen();
         }
         return Take(Answers, false);
+    }
+
+    std::size_t AskAmong(const Message& message,
+                         const std::vector<std::string>& captions) override {
+        Asked.push_back(message);
+        if (WhileOpen) {
+            WhileOpen();
+        }
+        return Take(Choices, captions.size() - 1);
     }
 
     std::optional<std::string> Input(const std::string& /*title*/, const std::string& prompt,
@@ -58,6 +69,10 @@ public:
 
     std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
         return Take(Fonts, std::optional<FontChoice>());
+    }
+
+    std::optional<std::int32_t> ChooseColour(std::int32_t /*offered*/) override {
+        return Take(Colours, std::optional<std::int32_t>());
     }
 
 private:

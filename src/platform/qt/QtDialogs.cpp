@@ -4,12 +4,15 @@
 #include "platform/qt/QtText.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace kestrova {
 
@@ -46,6 +49,14 @@ QString FilterOf(const std::string& filter) {
     return QStringLiteral("%1 (%2)").arg(caption, patterns);
 }
 
+QColor ColourOf(std::int32_t number) {
+    return {number & 0xFF, number >> 8 & 0xFF, number >> 16 & 0xFF};
+}
+
+std::int32_t NumberOf(const QColor& colour) {
+    return colour.red() + 256 * colour.green() + 65536 * colour.blue();
+}
+
 } // namespace
 
 void QtDialogs::Show(const Message& message) {
@@ -68,6 +79,23 @@ bool QtDialogs::Ask(const Message& message, const AnswerCaptions& captions) {
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;
+}
+
+std::size_t QtDialogs::AskAmong(const Message& message, const std::vector<std::string>& captions) {
+    QMessageBox box(QApplication::activeWindow());
+    Fill(box, message);
+    std::vector<QAbstractButton*> buttons;
+    for (const std::string& caption : captions) {
+        const bool isLast = buttons.size() + 1 == captions.size();
+        buttons.push_back(box.addButton(
+            ToQt(caption), isLast ? QMessageBox::RejectRole : QMessageBox::ActionRole));
+    }
+    box.setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
+    box.setEscapeButton(buttons.back());
+    box.exec();
+    const auto clicked = std::find(buttons.begin(), buttons.end(), box.clickedButton());
+    return clicked == buttons.end() ? buttons.size() - 1
+                                    : static_cast<std::size_t>(clicked - buttons.begin());
 }
 
 std::optional<std::string> QtDialogs::Input(const std::string& title, const std::string& prompt,
@@ -98,6 +126,11 @@ std::optional<std::string> QtDialogs::SaveFile(const std::string& folder,
         return std::nullopt;
     }
     return FromQt(dialog.selectedFiles().first());
+}
+
+std::optional<std::int32_t> QtDialogs::ChooseColour(std::int32_t offered) {
+    const QColor colour = QColorDialog::getColor(ColourOf(offered), QApplication::activeWindow());
+    return colour.isValid() ? std::optional(NumberOf(colour)) : std::nullopt;
 }
 
 std::optional<FontChoice> QtDialogs::ChooseFont(const FontChoice& offered) {

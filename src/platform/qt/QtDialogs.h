@@ -10,6 +10,8 @@ class QtDialogs : public Dialogs {
 public:
     void Show(const Message& message) override;
     bool Ask(const Message& message, const AnswerCaptions& captions) override;
+    std::size_t AskAmong(const Message& message,
+                         const std::vector<std::string>& captions) override;
     std::optional<std::string> Input(const std::string& title, const std::string& prompt,
                                      const std::string& offered) override;
     std::optional<std::string> OpenFile(const std::string& folder,
@@ -17,6 +19,7 @@ public:
     std::optional<std::string> SaveFile(const std::string& folder,
                                         const std::string& filter) override;
     std::optional<FontChoice> ChooseFont(const FontChoice& offered) override;
+    std::optional<std::int32_t> ChooseColour(std::int32_t offered) override;
 };
 
 } // namespace kestrova
