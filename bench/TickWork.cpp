@@ -2,6 +2,7 @@
 // What the clock costs twice a second, for years.
 #include "BoundedWork.h"
 #include "FullDiary.h"
+#include "NoDialogs.h"
 #include "ScratchFolder.h"
 
 #include "diary/DiaryStore.h"
@@ -27,28 +28,6 @@ struct FixedSecond : Clock {
     [[nodiscard]] WallTime Now() const override {
         benchmark::DoNotOptimize(Real.Now());
         return Shown;
-    }
-};
-
-struct NoDialogs : Dialogs {
-    void Show(const Message& /*message*/) override {}
-    bool Ask(const Message& /*message*/, const AnswerCaptions& /*captions*/) override {
-        return false;
-    }
-    std::optional<std::string> Input(const std::string& /*title*/, const std::string& /*prompt*/,
-                                     const std::string& /*offered*/) override {
-        return std::nullopt;
-    }
-    std::optional<std::string> OpenFile(const std::string& /*folder*/,
-                                        const std::string& /*filter*/) override {
-        return std::nullopt;
-    }
-    std::optional<std::string> SaveFile(const std::string& /*folder*/,
-                                        const std::string& /*filter*/) override {
-        return std::nullopt;
-    }
-    std::optional<FontChoice> ChooseFont(const FontChoice& /*offered*/) override {
-        return std::nullopt;
     }
 };
 

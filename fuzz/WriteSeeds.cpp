@@ -6,6 +6,7 @@
 #include "diary/SaveJournal.h"
 #include "language/LanguageFile.h"
 #include "mail/MailAccount.h"
+#include "print/LayoutFile.h"
 #include "puzzle/Bitmap.h"
 #include "settings/SettingsFile.h"
 #include "text/Lines.h"
@@ -237,6 +238,29 @@ void WriteSpeech(const std::filesystem::path& root) {
     seeds.Write("text", "\\Pit=1\\\\Spd=2\\Meet Bob at 3.15 today.\r\nOn time!");
 }
 
+void WriteLayouts(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "LayoutFile");
+    kestrova::PageLayout page;
+    seeds.Write("empty", kestrova::WriteLayout(page));
+    page.BackgroundPath = "/a.jpg";
+    page.LabCurMth.FontName = "Sans";
+    page.LabCurMth.Caption = "May  2026";
+    page.LabUser.resize(2);
+    page.LabUser[0].Width = 300;
+    page.LabUser[0].Height = 900;
+    page.LabUser[0].Caption = "two\r\nlines, one of them long, \"so\" \xC3\xA9"
+                              "e\xCC\x81";
+    page.LabUser[1].Enabled = false;
+    page.ImgUser.resize(1);
+    page.ImagePaths[1] = "b.png";
+    page.GridOn = true;
+    page.BorderLines = 4;
+    const std::string full = kestrova::WriteLayout(page);
+    seeds.Write("full", full);
+    seeds.Write("cut", std::string_view(full).substr(0, full.size() / 2));
+    seeds.Write("old", "\"C:\\caf\xE9\"\n 0 ,1,2,3,4\n\"\"\n-1\n0\n0\n0\n0\n\"-x\"\n");
+}
+
 int main(int argc, char* argv[]) {
     if (argc != 2) {
         std::fprintf(stderr, "usage: WriteSeeds FOLDER\n");
@@ -254,5 +278,6 @@ int main(int argc, char* argv[]) {
     WriteModemLists(root);
     WriteMetafiles(root);
     WriteSpeech(root);
+    WriteLayouts(root);
     return 0;
 }

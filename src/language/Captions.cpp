@@ -23,6 +23,8 @@ constexpr CaptionRow kCaptions[] = {
     {"Diary", "LabRmd(0)", {Labels, 4}},
     {"Diary", "LabHide", {Labels, 5}},
 
+    {"Preview", "ComPrint", {Buttons, 5}},
+
     {"ScreenReminder", "ComClear", {Buttons, 4}},
 
     {"Modem", "ComTestCall", {Buttons, 6}},

@@ -12,6 +12,7 @@ inline constexpr TextId kProgramTitle{TextGroup::Captions, 0};
 inline constexpr TextId kMessengerTitle{TextGroup::Captions, 1};
 inline constexpr TextId kDiaryTitle{TextGroup::Captions, 2};
 inline constexpr TextId kPhoneTitle{TextGroup::Captions, 4};
+inline constexpr TextId kPrintPreviewTitle{TextGroup::Captions, 6};
 
 inline constexpr TextId kChimeTypes{TextGroup::Selectors, 0};
 inline constexpr TextId kChimeIntervals{TextGroup::Selectors, 10};
@@ -20,6 +21,8 @@ inline constexpr TextId kReminderKinds{TextGroup::Selectors, 30};
 inline constexpr TextId kRepeatKinds{TextGroup::Selectors, 40};
 
 inline constexpr TextId kChangeMonthPicture{TextGroup::Buttons, 1};
+inline constexpr TextId kCancel{TextGroup::Buttons, 9};
+inline constexpr TextId kSave{TextGroup::Buttons, 10};
 
 inline constexpr TextId kAddLine{TextGroup::Labels, 0};
 inline constexpr TextId kOn{TextGroup::Labels, 29};
@@ -27,6 +30,7 @@ inline constexpr TextId kOff{TextGroup::Labels, 30};
 
 inline constexpr TextId kFullScreenTip{TextGroup::Tips, 35};
 
+inline constexpr TextId kNoPrinter{TextGroup::Messages, 1};
 inline constexpr TextId kDownloadSpeechParts{TextGroup::Messages, 3};
 inline constexpr TextId kNoMonthlyAbove28{TextGroup::Messages, 4};
 inline constexpr TextId kNoAnnualLeapDay{TextGroup::Messages, 5};

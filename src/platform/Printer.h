@@ -39,6 +39,9 @@ struct PageSize {
     bool operator==(const PageSize&) const = default;
 };
 
+// The whole paper as it is turned; A4 for a number that is none of the sizes.
+[[nodiscard]] PageSize PaperSizeOf(const PrinterSetup& setup);
+
 // The area that can be drawn on: the paper as it is turned, less the edge on each side.
 [[nodiscard]] PageSize PrintableArea(const PrinterSetup& setup);
 

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace kestrova {
@@ -37,8 +38,13 @@ public:
     explicit PrintDesk(Rooms rooms) : rooms_(std::move(rooms)) {}
 
     // Opens the month on show as a new page: portrait, without texts and pictures of the user's,
-    // laid out afresh. Fails when there is no printer (PrintFault is set then), and leaves no page.
+    // laid out afresh. While a page is open already, its background, border and grid stay, and the
+    // paper. Fails when there is no printer (PrintFault is set then), and leaves no page.
     [[nodiscard]] Status Open();
+
+    // The window has been closed: the paper's size goes into the settings, which the caller saves,
+    // and the page is gone.
+    void Close();
 
     // What the window does each time it is activated: it forgets the layout file's name and puts
     // the background's box inside the margins.
@@ -76,13 +82,15 @@ public:
     // The layout file: empty when none is known.
     [[nodiscard]] const std::string& LayoutFileName() const { return layoutFileName_; }
     // Writes the page to a file and makes it the layout's own. What stood there stays when it
-    // fails.
+    // fails; a layout that could not be read whole is kept beside it first ("Plan damaged.kly").
+    // TooLarge for a page that could not be read again: a text of more than 32 kB.
     [[nodiscard]] Status Save(const std::string& path);
     // Opens a layout: what can be read of a damaged one stays on the page, and the error says what
     // is wrong. The name is kept either way.
     [[nodiscard]] Status Load(const std::string& path);
 
-    // Whether the page differs from what was last opened, saved or laid out afresh.
+    // Whether the page differs from what was last opened or saved. What the desk itself does to a
+    // page that does not (another paper, the window's activation) is no change of the user's.
     [[nodiscard]] bool IsChanged() const;
 
     // Puts a page back as it was (undo); the set-up of the printer is not touched.
@@ -97,22 +105,42 @@ public:
     };
     [[nodiscard]] Added AddImage(const std::string& path);
 
-    // Adds a text "New Text" in the font of the messages at the top left, sized to its text.
+    // Adds a text "New Text" in the font of the messages at the top left, sized to its text. When
+    // there are kMaxLabels already, none is added, and the reference finds nothing.
     LayoutRef AddText();
 
-    // Loads the background or the page's picture. On failure the object is left without.
+    // Loads the background or the page's picture, and records its path. The page's picture is
+    // placed anew unless the user has sized it. On failure the object is left without, and the path
+    // is that of before.
     [[nodiscard]] Status LoadPicture(LayoutKind kind, const std::string& path);
 
 private:
-    [[nodiscard]] MonthSource Source(std::array<std::string, kDaysOfWeek> days) const;
+    [[nodiscard]] MonthSource Source() const;
+    [[nodiscard]] MonthSource SourceOf(int year, int month, const DiaryTable& table,
+                                       int baseYear) const;
+    [[nodiscard]] PrinterSetup FirstSetup() const;
+    void BeginPage();
+    void TakeMonthPicture();
+    void LayOut();
+    [[nodiscard]] Status KeepDamagedFile();
+    [[nodiscard]] Status PrintOn(Printer& printer, const PrinterSetup& setup,
+                                 const CalendarDate& month,
+                                 const std::function<void(PrintJob&)>& draw) const;
+    template<typename Work> void WithoutChange(Work work);
 
     Rooms rooms_;
     PageLayout page_;
     PageLayout kept_; // to tell whether anything has changed
     PrinterSetup setup_;
     std::string layoutFileName_;
+    std::string damagedFile_; // the layout that could not be read whole
+    // The diary of the page's month as it was when the page was opened: its messages are known by
+    // their order, which an edit since would change.
+    std::unique_ptr<const DiaryTable> events_;
+    int baseYear_ = 2000;
     int year_ = 2000; // the month on the page
     int month_ = 0;
+    bool open_ = false;        // there is a page
     bool firstLayout_ = false; // FirstLayout
     bool printFault_ = false;  // PrintFault
 };

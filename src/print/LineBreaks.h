@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/DrawingSurface.h"
+#include "print/PageLayout.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrova {
+
+// How texts are cut into the lines that are drawn, on paper and in the editor's window alike. A
+// character is never cut, nor parted from the marks that stand on it.
+
+// The lines of a caption, which are parted by CR LF (or LF alone).
+[[nodiscard]] std::vector<std::string> CaptionLines(std::string_view caption);
+
+// One line as so many (at least one) as it takes not to be wider than `width`: broken at blanks,
+// and inside a word that is too wide alone. When that would be more than `most`, the last of them
+// ends in an ellipsis.
+[[nodiscard]] std::vector<std::string> BreakLine(std::string_view line, int width, int most,
+                                                 const FontChoice& font,
+                                                 const TextMeasure& measure);
+
+// The lines of an object. Those of a message or of a text of the user's are broken to its width as
+// far as its height goes; its own lines are all there, however low it is. A box without width
+// breaks nothing.
+[[nodiscard]] std::vector<std::string> ItemLines(const LayoutItem& item, LayoutKind kind,
+                                                 const TextMeasure& measure);
+
+} // namespace kestrova
