@@ -65,7 +65,7 @@ write_diary() {
                 split(i in at ? at[i] : "|0|0|||", f, "|")
                 put(" " f[2] " "); put(" " f[3] " ")
                 put(f[4]); put(f[5]); put(f[6])
-                put(" 0 "); put(""); put(f[7]); put(""); put("")
+                put(" 0 "); put(f[8]); put(f[7]); put(""); put("")
             }
         }' >"$stage/diary.new"
     mv "$stage/diary.new" "$(diary_file)"

@@ -53,7 +53,7 @@ Program::Program(Orders orders, InstanceLink& link)
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
-                media_, dialogs_, shell_, clock_, pieces_},
+                media_, dialogs_, shell_, clock_, pieces_, files_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
                 [this] { KeepMenuChoices(); }, [this] { KeepVideoChoices(); },
                 [this] { ShowVideoChoices(); }, [this](int index) { ChangeLanguage(index); },
@@ -128,7 +128,6 @@ void Program::FillFirstSteps() {
     startUp_.Fill(StartUpStep::ApplySettings, [this] { formCal_.ApplySettings(); });
     // The entry only serves a later "Start on Boot Up", which tells when it cannot be written.
     startUp_.Fill(StartUpStep::GetShortCut, [this] { (void)shortCut_.GetShortCut(settings_); });
-    startUp_.Fill(StartUpStep::ModemCheck, [this] { ModemCheck(); });
 }
 
 void Program::FillDiarySteps() {
@@ -191,7 +190,8 @@ void Program::GetPaths() {
 }
 
 void Program::ModemCheck() {
-    // The probe waits for the modem's answers; no tick is to come in between.
+    // The probe waits for the modem's answers, for which the window does not; no tick is to come in
+    // between.
     Timer1.stop();
     if (HasModemPort(settings_) && !phone_.ModemPresent()) {
         settings_.ModemPort = texts_.Text(texts::kModemPorts);
@@ -313,6 +313,10 @@ void Program::FirstDrawn() {
     tick_.SetFirstDraw(false);
     // The window is to be seen before a delivery makes the pass wait.
     QTimer::singleShot(0, &formCal_, [this] {
+        ModemCheck();
+        if (ended_) {
+            return;
+        }
         if (!mediaFile_.empty()) {
             media_.PlayReminder(mediaFile_);
         }

@@ -155,7 +155,7 @@ TEST_P(LanguageRenderTest, TheMonth) {
     Windows all(GetParam());
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
-                   all.Pieces},
+                   all.Pieces, all.Files},
                   {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
     month.LoadCaptions();
