@@ -76,6 +76,7 @@ struct NoCaller : PhoneCaller {
     bool SendMessage(const std::string& /*dialString*/, const std::string& /*message*/) override {
         return false;
     }
+    bool WasStopped() const override { return false; }
     void Delay(int /*seconds*/) override {}
 };
 

@@ -72,6 +72,9 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
     const int minute = now.Hour * 60 + now.Minute;
     const std::string folder = rooms_.Store.Folder();
     for (const DiaryEvent& event : events) {
+        if (ended_) {
+            break; // what is due stays due for the next start
+        }
         if (event.IsFree() || event.Key() > minute ||
             !FindExactly(rooms_.Store.Table(), Today(), event)) {
             continue;
@@ -233,7 +236,7 @@ bool ReminderReview::CallNumbers(const DiaryEvent& event) {
             const bool is101 = rooms_.Settings.ModemName == kIs101Family;
             done = rooms_.Phone.SendMessage("ATD" + number + (is101 ? ";" : ""), event.Msg);
         }
-        if (done || rooms_.Phone.Modem() != ModemState::On) {
+        if (done || rooms_.Phone.WasStopped() || rooms_.Phone.Modem() != ModemState::On) {
             return done;
         }
         if (!number.empty() && i != kNumbers.back()) {

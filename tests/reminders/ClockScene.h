@@ -48,6 +48,8 @@ struct RecordingCaller : PhoneCaller {
 
     bool ModemPresent() override { return true; }
     ModemState Modem() const override { return State; }
+    bool Stopped = false;
+    bool WasStopped() const override { return Stopped; }
     bool SendMessage(const std::string& dial, const std::string& message) override {
         Calls.push_back(dial + " " + message);
         if (DuringCall) {

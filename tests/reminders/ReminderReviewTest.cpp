@@ -119,6 +119,22 @@ TEST(ReminderReviewTest, CallsGoThroughTheNumbersUntilOneAnswers) {
     EXPECT_EQ(scene.ReminderOnFile(), "None");
 }
 
+TEST(ReminderReviewTest, AStoppedCallTriesNoOtherNumberAndAnEndingProgramNoOtherReminder) {
+    ClockScene scene;
+    scene.Add(9, 0, "Milk", "Phone", {"", "111", "222", "333"});
+    scene.Phone.Stopped = true;
+    scene.PassAt(9, 0);
+    EXPECT_THAT(scene.Phone.Calls, testing::SizeIs(1));
+    EXPECT_EQ(scene.Phone.Delays, 0);
+
+    ClockScene ending;
+    ending.Add(9, 0, "Milk", "Phone", {"", "111", "", ""});
+    ending.Add(9, 1, "Song", "Music");
+    ending.Phone.DuringCall = [&] { ending.Review.End(); };
+    ending.PassAt(9, 1);
+    EXPECT_EQ(ending.ReminderOnFile(2), "Music");
+}
+
 TEST(ReminderReviewTest, MissedCallsAreRepeatedAfterTheirPeriod) {
     ClockScene scene;
     scene.Settings.PhoneRepeat = "2";

@@ -31,7 +31,7 @@ Program::Program(Orders orders, InstanceLink& link)
               [this]() -> CallScreen& { return ModemWindow(); }}),
       mailModule_(MailModule::ShippedPath()),
       mail_({mailModule_, mailModule_, files_, clock_, loop_, dialogs_, texts_},
-            dataFolder_ + "Mail.dat"),
+            dataFolder_ + "Mail.dat", [this](const std::string& text) { Tell(text); }),
       mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
       voices_(SpeechModule::ShippedPath()), stage_(voices_), texts_(MsgDefaults()),
       settings_(FirstSettings(texts_)),
@@ -64,7 +64,10 @@ Program::Program(Orders orders, InstanceLink& link)
                 [this] { End(); }}) {
     stage_.SetNeighbour(&formCal_);
     Timer1.setInterval(kTickMilliseconds);
-    QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
+    QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] {
+        tick_.Timer1_Timer();
+        phone_.Tick(std::chrono::steady_clock::now());
+    });
     FillStartUp();
 }
 
@@ -90,6 +93,7 @@ int Program::Run(FirstShow show) {
 // wait for an answer to a message are left with it, also those before the main one has begun.
 void Program::End() {
     ended_ = true;
+    review_.End();
     phone_.End(); // a call hangs up
     if (diary_) {
         // What the user has typed into a note is theirs, like any note that has been left.
@@ -327,9 +331,7 @@ void Program::FirstDrawn() {
 // Whoever has something to tell may be in the middle of a pass with more to deliver, which must not
 // wait for the user.
 void Program::Tell(const std::string& text) {
-    QTimer::singleShot(0, &formCal_, [this, text] {
-        dialogs_.Show({texts_.Text(texts::kMessengerTitle), text, DialogIcon::Critical});
-    });
+    notice_.Tell(ToQt(texts_.Text(texts::kMessengerTitle)), ToQt(text));
 }
 
 void Program::OpenDiary(int day) {

@@ -30,6 +30,7 @@
 #include "settings/ui/Settings.h"
 #include "speech/SpeakingCharacter.h"
 #include "speech/ui/DesktopStage.h"
+#include "ui/Notice.h"
 
 #include <QTimer>
 
@@ -146,6 +147,7 @@ private:
     PosixFileStore files_;
     SystemClock clock_;
     QtDialogs dialogs_;
+    Notice notice_;
     QtEventLoop loop_;
     QtBeeper beeper_;
     QtShell shell_;

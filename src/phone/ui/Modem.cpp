@@ -46,10 +46,15 @@ bool Modem::AskPhoneNumbers(std::array<std::string, 4>& extra) {
     if (asking_) {
         return false;
     }
-    const QScopedValueRollback<bool> guard(asking_, true);
-    extra_ = extra;
     const bool own = std::any_of(extra.begin(), extra.end(),
                                  [](const std::string& number) { return !number.empty(); });
+    if (rooms_.Caller.IsBusy()) {
+        // The call could not end while its own window is waited for. The stored numbers will do.
+        extra = own ? extra : rooms_.Settings.StoredNumbers;
+        return own || !numbers_.List().empty();
+    }
+    const QScopedValueRollback<bool> guard(asking_, true);
+    extra_ = extra;
     ShowNumbers(own ? extra : rooms_.Settings.StoredNumbers);
     // The event being edited stays as it is while its numbers are asked for.
     setWindowModality(Qt::ApplicationModal);

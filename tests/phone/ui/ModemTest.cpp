@@ -212,6 +212,24 @@ TEST(ModemTest, AReminderCallComesAndGoesByItselfAndEscapeStopsIt) {
     }
 }
 
+TEST(ModemTest, NumbersAreNotAskedForInTheMiddleOfACall) {
+    ModemScene scene;
+    int asked = 0;
+    scene.OnCommand = [&](const std::string& command) {
+        if (command == "ATD5") {
+            Numbers none;
+            Numbers own = {"", "7", "", ""};
+            EXPECT_TRUE(scene.Window.AskPhoneNumbers(none));
+            EXPECT_TRUE(scene.Window.AskPhoneNumbers(own));
+            EXPECT_EQ(none, scene.Settings.StoredNumbers);
+            EXPECT_EQ(own[1], "7");
+            ++asked;
+        }
+    };
+    scene.Phone.SendMessage("ATD5", "x");
+    EXPECT_EQ(asked, 1);
+}
+
 TEST(ModemTest, HowTheMessageIsGivenIsASetting) {
     ModemScene scene;
     scene.Window.show();
