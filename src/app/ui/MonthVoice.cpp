@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include <utility>
+
 namespace kestrova {
 
 namespace {
@@ -51,6 +53,9 @@ void MonthVoice::SayDaySoon(int day) {
 
 void MonthVoice::SayPictureSoon() {
     SayNothing();
+    if (saysPicture_) {
+        rooms_.Speech.SetStopSpeaking(true); // that page has been turned
+    }
     if (rooms_.Settings.SpeakPicture != 0) {
         SayAfter(kPageTurning, [this] { SayPicture(); });
     }
@@ -75,7 +80,9 @@ void MonthVoice::SayPicture() {
         return;
     }
     if (const auto bytes = rooms_.Files.Read(path, kLongestText)) {
+        const bool said = std::exchange(saysPicture_, true); // the next page may come meanwhile
         rooms_.Speech.Talk(AsUtf8(bytes.Value()), AfterSpeaking::Hide);
+        saysPicture_ = said;
     }
 }
 

@@ -54,6 +54,7 @@ private:
     Rooms rooms_;
     QTimer wait_;
     std::function<void()> waiting_;
+    bool saysPicture_ = false;
 };
 
 } // namespace kestrova
