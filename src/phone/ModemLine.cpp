@@ -33,10 +33,10 @@ std::string_view ReplyText(Reply reply) {
     return reply == Reply::Error ? "ERROR" : "OK";
 }
 
-bool ModemLine::Open(std::string_view choice, std::string_view settings) {
+Status ModemLine::Open(std::string_view choice, std::string_view settings) {
     const int number = choice.empty() ? 0 : choice.back() - '0';
     sounding_ = sounding_ && port_.IsOpen();
-    return port_.Open(number, settings).Ok();
+    return port_.Open(number, settings);
 }
 
 void ModemLine::Stop() {

@@ -35,8 +35,9 @@ class ModemLine {
 public:
     ModemLine(SerialPort& port, EventLoop& loop) : port_(port), loop_(loop) {}
 
-    // Opens the port that the settings name ("Com:2") unless it is open; false when it cannot be.
-    bool Open(std::string_view choice, std::string_view settings);
+    // Opens the port that the settings name ("Com:2") unless it is open. NotFound, Busy (somebody
+    // else's) or Failed.
+    [[nodiscard]] Status Open(std::string_view choice, std::string_view settings);
     [[nodiscard]] bool IsOpen() const { return port_.IsOpen(); }
     void Close() { port_.Close(); }
 

@@ -39,6 +39,9 @@ public:
     // Leaves the port closed. While a call runs there is a modem.
     bool ModemPresent() override;
 
+    // Why the port could not be opened in the last search; empty when it could.
+    [[nodiscard]] const std::string& PortTrouble() const { return probe_.Trouble(); }
+
     // On while the settings name a port, unless the user has switched telephoning off since.
     [[nodiscard]] ModemState Modem() const override;
 

@@ -129,7 +129,7 @@ private:
     }
     void Talk(const std::string& text) override { speech_.Talk(text, AfterSpeaking::Hide); }
     void PortChosen() override { phone_.PortChosen(); }
-    std::optional<std::string> FindModem() override;
+    Result<std::string> FindModem() override;
     void MakeSound(const std::string& path) override { media_.MakeSound(path); }
     void ChangeYear() override;
     void FormatData() override;

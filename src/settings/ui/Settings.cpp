@@ -334,9 +334,12 @@ void Settings::ComModem_Click() {
     const auto found = rooms_.Actions.FindModem();
     setEnabled(true);
     ComModem->setFocus(); // which being disabled has taken
-    rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
-                       found ? TextOf(rooms_.Texts, ProgramText::ModemFound, *found)
-                             : rooms_.Texts.Text(kModemNotFound),
+    std::string text = found ? TextOf(rooms_.Texts, ProgramText::ModemFound, found.Value())
+                             : rooms_.Texts.Text(kModemNotFound);
+    if (!found && !found.Failure().Text.empty()) {
+        text += "\n" + found.Failure().Text;
+    }
+    rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle), text,
                        found ? DialogIcon::None : DialogIcon::Critical});
     ShowRecord();
 }

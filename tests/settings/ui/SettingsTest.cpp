@@ -37,7 +37,9 @@ struct AskedActions : SettingsActions {
     [[nodiscard]] std::vector<std::string> Characters() const override { return Voices; }
     bool LoadCharacter() override { return CharacterLoads; }
     void Talk(const std::string& text) override { Asked.push_back("talk " + text); }
-    std::optional<std::string> FindModem() override { return Modem; }
+    Result<std::string> FindModem() override {
+        return Modem ? Result<std::string>(*Modem) : Error{ErrorCode::NotFound, "port taken"};
+    }
     void PortChosen() override {}
     void CheckCharacter() override {}
     void CheckSpeech() override {}
@@ -213,7 +215,7 @@ TEST(SettingsTest, TheModemIsTestedOnlyWhereAPortIsChosen) {
     ASSERT_TRUE(test->isEnabled());
     scene.Click("ComModem");
     ASSERT_EQ(scene.Boxes.Shown.size(), 1U);
-    EXPECT_EQ(scene.Boxes.Shown[0].Text, "Suitable Modem Not Found");
+    EXPECT_EQ(scene.Boxes.Shown[0].Text, "Suitable Modem Not Found\nport taken");
     scene.Actions.Modem = "Elsa 56k";
     scene.Click("ComModem");
     EXPECT_EQ(scene.Boxes.Shown[1].Text, "Modem found: Elsa 56k");
