@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A sentence takes milliseconds. Nobody gives it more than a page.
+// A sentence takes milliseconds, a page a moment.
 constexpr auto kLongestWork = 10s;
 constexpr std::size_t kLongestText = 100'000;    // bytes
 constexpr std::size_t kMostSamples = 40'000'000; // half an hour
