@@ -417,7 +417,7 @@ bool Program::AskPhoneNumbers(ReminderExtra& extra) {
     return ModemWindow().AskPhoneNumbers(extra);
 }
 
-bool Program::AskMailAddress(ReminderExtra& extra) {
+DetailsAnswer Program::AskMailAddress(ReminderExtra& extra) {
     return mail_.AskMailAddress(extra);
 }
 

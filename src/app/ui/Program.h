@@ -136,7 +136,7 @@ private:
     bool SaveSettings() override;
 
     bool AskPhoneNumbers(ReminderExtra& extra) override;
-    bool AskMailAddress(ReminderExtra& extra) override;
+    DetailsAnswer AskMailAddress(ReminderExtra& extra) override;
     void Preview(const std::string& path) override { media_.MakeSound(path); }
 
     bool ended_ = false;

@@ -131,8 +131,8 @@ bool Program::SaveSettings() {
         kept_ = settings_;
     }
     ShowTodayMonth();
+    speech_.AgentTer();
     if (settings_.SpeechEnabled != 0) {
-        speech_.AgentTer();
         speech_.AgentIni();
         speech_.LoadMerlin();
     }

@@ -52,15 +52,13 @@ void MailDesk::LoadCaptions() {
     }
 }
 
-bool MailDesk::AskMailAddress(ReminderExtra& extra) {
-    if (!MailWindow().AskDetails(extra)) {
-        return false;
-    }
-    if (!service_.HasAccount()) {
+DetailsAnswer MailDesk::AskMailAddress(ReminderExtra& extra) {
+    const DetailsAnswer answer = MailWindow().AskDetails(extra);
+    if (answer == DetailsAnswer::Given && !service_.HasAccount()) {
         // Now somebody is there who knows it. Who does not care yet is asked again in time.
         (void)AskLogOn(service_.Offer());
     }
-    return true;
+    return answer;
 }
 
 void MailDesk::TellAFriend() {
@@ -121,6 +119,10 @@ void MailDesk::SetMailWindowMode(MailWindowMode mode) {
 
 bool MailDesk::AskLogOn(const LogOnOffer& offer) {
     return LogOnWindow().Ask(offer);
+}
+
+bool MailDesk::IsLogOnOpen() const {
+    return logOn_ && logOn_->isVisible();
 }
 
 void MailDesk::OfferLogOn(const LogOnOffer& offer) {

@@ -39,8 +39,8 @@ public:
     [[nodiscard]] const ReminderMail& Reminders() const { return service_; }
 
     // Lets the user give the name and address of a mail reminder and, where there is no account
-    // yet, the account; returns when the windows are closed. False when the user has cancelled.
-    bool AskMailAddress(ReminderExtra& extra);
+    // yet, the account; returns when the windows are closed.
+    DetailsAnswer AskMailAddress(ReminderExtra& extra);
 
     // Opens the invitation to friends.
     void TellAFriend();
@@ -57,6 +57,7 @@ private:
     void ShowSent(std::size_t friendNumber) override;
     void SetMailWindowMode(MailWindowMode mode) override;
     bool AskLogOn(const LogOnOffer& offer) override;
+    [[nodiscard]] bool IsLogOnOpen() const override;
     void OfferLogOn(const LogOnOffer& offer) override;
 
     Email& MailWindow();

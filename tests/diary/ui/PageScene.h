@@ -26,7 +26,9 @@ struct NoDetails : ReminderDetails {
     bool VideoWorks() const override { return false; }
     bool CdWorks() const override { return false; }
     bool AskPhoneNumbers(ReminderExtra& /*extra*/) override { return false; }
-    bool AskMailAddress(ReminderExtra& /*extra*/) override { return false; }
+    DetailsAnswer AskMailAddress(ReminderExtra& /*extra*/) override {
+        return DetailsAnswer::SwitchedOff;
+    }
     void Preview(const std::string& /*path*/) override {}
 };
 

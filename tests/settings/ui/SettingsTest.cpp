@@ -43,7 +43,8 @@ struct AskedActions : SettingsActions {
     void PortChosen() override {}
     void CheckCharacter() override {}
     void CheckSpeech() override {}
-    std::vector<std::string> LeftOutCharacters() const override { return {}; }
+    std::vector<std::string> LeftOut;
+    std::vector<std::string> LeftOutCharacters() const override { return LeftOut; }
     bool SoundWorks() const override { return Sounds; }
     void MakeSound(const std::string& path) override { Asked.push_back("sound " + path); }
     void ChangeYear() override { Asked.emplace_back("year"); }
@@ -258,6 +259,26 @@ TEST(SettingsTest, SpeechThatCannotBeHadSwitchesItselfOff) {
     EXPECT_EQ(scene.Record.CharacterName, "robby.acs");
     scene.Click("ComSpchTest");
     EXPECT_EQ(scene.Actions.Asked.back(), "talk Testing Text To Speech System");
+}
+
+TEST(SettingsTest, TheListTellsWhyACharacterIsLeftOutWhetherTipsAreOnOrNot) {
+    SettingsScene scene;
+    scene.Actions.LeftOut = {"“A.acs” is damaged.", "“B.acs” is too large."};
+    scene.Record.HelpTextOn = 0;
+    scene.Open();
+    auto* const list = scene.Find<QComboBox>("CombChr");
+    for (const int ticks : {1, 2, 3}) {
+        EXPECT_TRUE(list->toolTip().contains(QStringLiteral("A.acs"))) << ticks;
+        scene.Click("Check10");
+    }
+    scene.Window->LoadCaptions();
+    EXPECT_TRUE(list->toolTip().contains(QStringLiteral("B.acs")));
+    // A character that has been mended is no longer told of.
+    scene.Actions.LeftOut.clear();
+    scene.Window->ShowRecord();
+    EXPECT_EQ(FromQt(list->toolTip()), scene.Texts.Text({TextGroup::Tips, 6}));
+    scene.Click("Check10");
+    EXPECT_EQ(list->toolTip(), QString());
 }
 
 TEST(SettingsTest, DefaultsCanBeTakenBack) {
