@@ -145,7 +145,7 @@ DetailsAnswer EventEditor::CollectDetails(ReminderKind kind) {
             ShowRefusal({texts::kNoCallModemDisabled, texts::kEnableModem});
             return DetailsAnswer::SwitchedOff;
         }
-        return AnswerOf(rooms_.Details.AskPhoneNumbers(extra_));
+        return rooms_.Details.AskPhoneNumbers(extra_);
     case ReminderKind::Media:
         if (!rooms_.Details.SoundWorks()) {
             ShowRefusal({texts::kNoWaveSounds, texts::kAtTheMoment});

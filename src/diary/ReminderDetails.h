@@ -31,8 +31,7 @@ public:
     [[nodiscard]] virtual bool CdWorks() const = 0;
 
     // Lets the user give telephone numbers or a mail address; returns when that window is closed.
-    // False when the user has switched the channel off meanwhile.
-    virtual bool AskPhoneNumbers(ReminderExtra& extra) = 0;
+    virtual DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) = 0;
     virtual DetailsAnswer AskMailAddress(ReminderExtra& extra) = 0;
 
     // Plays a wave file once.

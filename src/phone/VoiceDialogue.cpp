@@ -99,7 +99,7 @@ Reply VoiceDialogue::SayThroughLine(const std::string& words, AfterSpeaking afte
 }
 
 Reply VoiceDialogue::SayThroughCard(const std::string& words, AfterSpeaking after) {
-    rooms_.Speech.Talk(words, after);
+    rooms_.Speech.TalkInCall(words, after);
     rooms_.Line.WaitFor([this] { return !rooms_.Speech.IsSpeaking(); }, LongestSpeech(words));
     return rooms_.Line.Stopped() ? Reply::Error : Reply::Ok;
 }

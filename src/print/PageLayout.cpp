@@ -17,22 +17,14 @@ template<typename Page>
 std::conditional_t<std::is_const_v<Page>, const LayoutItem, LayoutItem>*
 FindIn(Page& page, const LayoutRef& ref) {
     switch (ref.Kind) {
-    case LayoutKind::Image1:
-        return &page.Image1;
-    case LayoutKind::Image2:
-        return &page.Image2;
-    case LayoutKind::ImgUser:
-        return Element(page.ImgUser, ref.Index, 1);
-    case LayoutKind::LabCurMth:
-        return &page.LabCurMth;
-    case LayoutKind::LabDays:
-        return Element(page.LabDays, ref.Index, 0);
-    case LayoutKind::LabDates:
-        return Element(page.LabDates, ref.Index, 0);
-    case LayoutKind::LabEvent:
-        return Element(page.LabEvent, ref.Index, 1);
-    case LayoutKind::LabUser:
-        return Element(page.LabUser, ref.Index, 1);
+    case LayoutKind::Image1: return &page.Image1;
+    case LayoutKind::Image2: return &page.Image2;
+    case LayoutKind::ImgUser: return Element(page.ImgUser, ref.Index, 1);
+    case LayoutKind::LabCurMth: return &page.LabCurMth;
+    case LayoutKind::LabDays: return Element(page.LabDays, ref.Index, 0);
+    case LayoutKind::LabDates: return Element(page.LabDates, ref.Index, 0);
+    case LayoutKind::LabEvent: return Element(page.LabEvent, ref.Index, 1);
+    case LayoutKind::LabUser: return Element(page.LabUser, ref.Index, 1);
     }
     return nullptr;
 }

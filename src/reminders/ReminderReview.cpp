@@ -193,15 +193,24 @@ bool ReminderReview::Announce(const DiaryEvent& event) {
         rooms_.Bell.Beep();
         return true;
     }
-    speech.SetStopSpeaking(false);
+    const int clicks = speech.Clicks();
     speech.Show();
     for (const std::string& text :
          {TextOf(rooms_.Texts, ProgramText::ReminderService), event.Msg,
           TextOf(rooms_.Texts, ProgramText::SpokenAt), SpokenTime(event)}) {
         speech.Speak(text);
     }
-    const bool acknowledged =
-        rooms_.Loop.WaitUntil([&] { return speech.StopSpeaking(); }, kAcknowledgeTime);
+    const bool acknowledged = rooms_.Loop.WaitUntil(
+        [&] {
+            if (speech.Clicks() != clicks) {
+                return true;
+            }
+            if (!speech.IsVisible()) {
+                speech.Show(); // other words have ended meanwhile, and taken it away
+            }
+            return false;
+        },
+        kAcknowledgeTime);
     if (speech.IsVisible()) {
         speech.Hide();
     }

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "speech/SpokenDay.h"
 
+#include "language/ProgramTexts.h"
 #include "text/Numbers.h"
 
 namespace kestrova {
 
-std::string SpokenDay(const DiaryTable& table, const DayPlace& day) {
+std::string SpokenDay(const DiaryTable& table, const DayPlace& day, const StringTable& texts) {
     std::string text;
     int number = 0;
     for (int slot = 1; slot <= kEventsPerDay; ++slot) {
@@ -14,7 +15,8 @@ std::string SpokenDay(const DiaryTable& table, const DayPlace& day) {
             continue;
         }
         // A voice reads the hour as a number, the minutes as two digits after it.
-        text += (text.empty() ? "" : "\r\n") + ("Message " + std::to_string(++number)) + "\r\n" +
+        text += (text.empty() ? "" : "\r\n") +
+                TextOf(texts, ProgramText::SpokenMessage, std::to_string(++number)) + "\r\n" +
                 std::to_string(event.Hour) + ":" + TwoDigits(event.Minute) + ", " + event.Msg;
     }
     return text;

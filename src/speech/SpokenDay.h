@@ -2,6 +2,7 @@
 #pragma once
 
 #include "diary/DiaryTable.h"
+#include "language/StringTable.h"
 
 #include <string>
 
@@ -9,6 +10,7 @@ namespace kestrova {
 
 // A day's visible events as they are read aloud: each numbered from 1, with its time and its
 // message. Empty when there are none.
-[[nodiscard]] std::string SpokenDay(const DiaryTable& table, const DayPlace& day);
+[[nodiscard]] std::string SpokenDay(const DiaryTable& table, const DayPlace& day,
+                                    const StringTable& texts);
 
 } // namespace kestrova

@@ -28,10 +28,10 @@ struct SetDetails : ReminderDetails {
     bool SoundWorks() const override { return Sound; }
     bool VideoWorks() const override { return Sound; }
     bool CdWorks() const override { return Cd; }
-    bool AskPhoneNumbers(ReminderExtra& extra) override {
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) override {
         Asked = extra;
         extra[1] = "5551234";
-        return ModemIs == ModemState::On;
+        return ModemIs == ModemState::On ? DetailsAnswer::Given : DetailsAnswer::SwitchedOff;
     }
     DetailsAnswer AskMailAddress(ReminderExtra& extra) override {
         extra[2] = "bob@example.org";

@@ -84,7 +84,7 @@ TEST(ReminderReviewTest, ASpokenReminderIsAcknowledgedByAClick) {
     EXPECT_FALSE(scene.Speech.Visible);
     EXPECT_EQ(scene.ReminderOnFile(), "Speak") << "nobody has clicked";
 
-    scene.Loop.WhileWaiting = [&] { scene.Speech.Stop = true; };
+    scene.Loop.WhileWaiting = [&] { ++scene.Speech.Clicked; };
     scene.PassAt(9, 6);
     scene.PassAt(9, 7);
     EXPECT_EQ(scene.Speech.Spoken.size(), 4U) << "not yet again";

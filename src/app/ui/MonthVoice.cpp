@@ -64,7 +64,7 @@ void MonthVoice::SayPictureSoon() {
 void MonthVoice::SayDay(int day) {
     if (const auto year = rooms_.Dates.PageYearIndex()) {
         const std::string text =
-            SpokenDay(rooms_.Store.Table(), {day, rooms_.Dates.PageMonth, *year});
+            SpokenDay(rooms_.Store.Table(), {day, rooms_.Dates.PageMonth, *year}, rooms_.Texts);
         if (!text.empty()) {
             rooms_.Speech.Talk(text, AfterSpeaking::Hide);
         }

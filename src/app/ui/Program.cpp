@@ -413,7 +413,7 @@ bool Program::MailWorks() const {
     return !mail_.Reminders().MailFailed();
 }
 
-bool Program::AskPhoneNumbers(ReminderExtra& extra) {
+DetailsAnswer Program::AskPhoneNumbers(ReminderExtra& extra) {
     return ModemWindow().AskPhoneNumbers(extra);
 }
 

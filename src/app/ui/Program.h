@@ -135,7 +135,7 @@ private:
     void FormatData() override;
     bool SaveSettings() override;
 
-    bool AskPhoneNumbers(ReminderExtra& extra) override;
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) override;
     DetailsAnswer AskMailAddress(ReminderExtra& extra) override;
     void Preview(const std::string& path) override { media_.MakeSound(path); }
 

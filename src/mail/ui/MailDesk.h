@@ -9,8 +9,6 @@
 #include <memory>
 #include <string>
 
-class QMessageBox;
-
 namespace kestrova {
 
 class Email;
@@ -30,9 +28,9 @@ public:
         const StringTable& Texts;
     };
 
-    // `tell` is given what has failed, in a sentence; empty stands for a box that nobody waits for.
+    // `tell` is given what has failed, in a sentence, and must not wait for the user.
     MailDesk(const Rooms& rooms, std::string accountPath,
-             std::function<void(const std::string& text)> tell = {});
+             std::function<void(const std::string& text)> tell);
     ~MailDesk() override;
 
     [[nodiscard]] ReminderMail& Reminders() { return service_; }
@@ -63,14 +61,12 @@ private:
     Email& MailWindow();
     MailLogOn& LogOnWindow();
     bool SendInvitation(const std::string& name, const InvitedFriends& friends);
-    void ShowNotice(const std::string& text);
 
     Rooms rooms_;
     MailAccountStore accounts_;
     MailService service_;
     std::unique_ptr<Email> email_;
     std::unique_ptr<MailLogOn> logOn_;
-    std::unique_ptr<QMessageBox> notice_;
 };
 
 } // namespace kestrova

@@ -87,8 +87,8 @@ std::size_t QtDialogs::AskAmong(const Message& message, const std::vector<std::s
     std::vector<QAbstractButton*> buttons;
     for (const std::string& caption : captions) {
         const bool isLast = buttons.size() + 1 == captions.size();
-        buttons.push_back(box.addButton(
-            ToQt(caption), isLast ? QMessageBox::RejectRole : QMessageBox::ActionRole));
+        buttons.push_back(box.addButton(ToQt(caption), isLast ? QMessageBox::RejectRole
+                                                              : QMessageBox::ActionRole));
     }
     box.setDefaultButton(qobject_cast<QPushButton*>(buttons.front()));
     box.setEscapeButton(buttons.back());

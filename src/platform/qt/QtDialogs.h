@@ -10,8 +10,7 @@ class QtDialogs : public Dialogs {
 public:
     void Show(const Message& message) override;
     bool Ask(const Message& message, const AnswerCaptions& captions) override;
-    std::size_t AskAmong(const Message& message,
-                         const std::vector<std::string>& captions) override;
+    std::size_t AskAmong(const Message& message, const std::vector<std::string>& captions) override;
     std::optional<std::string> Input(const std::string& title, const std::string& prompt,
                                      const std::string& offered) override;
     std::optional<std::string> OpenFile(const std::string& folder,

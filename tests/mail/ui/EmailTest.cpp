@@ -65,7 +65,10 @@ struct Desk {
     SteppedLoop Loop;
     ScriptedDialogs Boxes;
     StringTable Texts = MsgDefaults();
-    MailDesk Mail{{Transport, Keyring, Files, Clock, Loop, Boxes, Texts}, "/home/me/Mail.dat"};
+    std::vector<std::string> Told;
+    MailDesk Mail{{Transport, Keyring, Files, Clock, Loop, Boxes, Texts},
+                  "/home/me/Mail.dat",
+                  [this](const std::string& text) { Told.push_back(text); }};
 
     void HaveAccount() {
         Files.Put("/home/me/Mail.dat", WriteMailAccount(kAccount));
@@ -248,17 +251,6 @@ TEST(EmailTest, AReminderWithoutAnAccountWaitsForNobody) {
     ASSERT_NE(Window("MailLogOn"), nullptr);
     QTest::keyClick(Window("MailLogOn"), Qt::Key_Escape);
     EXPECT_TRUE(desk.Mail.Reminders().MailFailed());
-}
-
-TEST(EmailTest, WhatFailsStandsInABoxThatNobodyWaitsFor) {
-    Desk desk;
-    desk.HaveAccount();
-    desk.Transport.Outcomes = {MailOutcome{MailTrouble::Refused, "<b>554</b>"}};
-    EXPECT_EQ(desk.Mail.Reminders().SendMail(DiaryEvent{}), MailStatus::TryLater);
-    auto* const notice = qobject_cast<QMessageBox*>(Window("MailNotice"));
-    ASSERT_NE(notice, nullptr);
-    EXPECT_TRUE(notice->text().contains(QStringLiteral("<b>554</b>")));
-    EXPECT_EQ(notice->textFormat(), Qt::PlainText);
 }
 
 void ExpectNothingIsCut(QWidget* window) {

@@ -52,7 +52,7 @@ struct ModemScene : CallScene {
     // Opens the window for a reminder, and does this in it.
     bool Ask(std::array<std::string, 4>& extra, const std::function<void()>& user) {
         QTimer::singleShot(0, &Window, user);
-        return Window.AskPhoneNumbers(extra);
+        return Window.AskPhoneNumbers(extra) == DetailsAnswer::Given;
     }
 };
 
@@ -219,9 +219,9 @@ TEST(ModemTest, NumbersAreNotAskedForInTheMiddleOfACall) {
         if (command == "ATD5") {
             Numbers none;
             Numbers own = {"", "7", "", ""};
-            EXPECT_TRUE(scene.Window.AskPhoneNumbers(none));
-            EXPECT_TRUE(scene.Window.AskPhoneNumbers(own));
-            EXPECT_EQ(none, scene.Settings.StoredNumbers);
+            EXPECT_EQ(scene.Window.AskPhoneNumbers(none), DetailsAnswer::NotNow);
+            EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+            EXPECT_EQ(scene.Window.AskPhoneNumbers(own), DetailsAnswer::Given);
             EXPECT_EQ(own[1], "7");
             ++asked;
         }
