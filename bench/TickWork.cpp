@@ -47,6 +47,10 @@ struct NoSpeaker : Speaker {
     void SetStopSpeaking(bool /*stop*/) override {}
     void Talk(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
     void TellTime(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
+    [[nodiscard]] int Clicks() const override { return 0; }
+    void BeginCall() override {}
+    void EndCall() override {}
+    void TalkInCall(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
 };
 
 struct NoCaller : PhoneCaller {
@@ -55,6 +59,7 @@ struct NoCaller : PhoneCaller {
     bool SendMessage(const std::string& /*dialString*/, const std::string& /*message*/) override {
         return false;
     }
+    bool WasStopped() const override { return false; }
     void Delay(int /*seconds*/) override {}
 };
 

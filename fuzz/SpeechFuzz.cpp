@@ -49,6 +49,12 @@ int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
         std::erase(text, '\r');
         return text;
     };
+    std::string parts;
+    for (const std::string& part : kestrova::CutLongPieces({std::string(input)})) {
+        Expect(!part.empty(), "a part holds something");
+        parts += part;
+    }
+    Expect(parts == input, "the parts are the text");
     Expect(withoutEnds(together) == withoutEnds(std::string(input)), "the pieces are the text");
     (void)kestrova::ReadMarks(input);
     return 0;

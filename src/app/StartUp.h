@@ -23,7 +23,7 @@ enum class StartUpStep {
     AgentIni,          // the speech agent
     ApplySettings,     // GetSettings, mode 2
     GetShortCut,       // the start-up shortcut
-    ModemCheck,        // with the timer paused
+    ModemCheck,        // put off until the window has been drawn: the answers take their time
     BaseYear,          // today's year
     OrdinalNames,      // for monthly repeats
     PictureTables,     // pictures and texts of the months

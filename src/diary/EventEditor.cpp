@@ -21,6 +21,10 @@ std::int16_t TimeNumber(std::string_view text) {
     return ReadInt16(text).value_or(0);
 }
 
+DetailsAnswer AnswerOf(bool given) {
+    return given ? DetailsAnswer::Given : DetailsAnswer::SwitchedOff;
+}
+
 } // namespace
 
 bool IsTimeText(std::string_view text, int limit) {
@@ -124,8 +128,8 @@ bool EventEditor::CollectMediaFile() {
     return !extra_[kMediaFile].empty();
 }
 
-// Whether the reminder can be given; if not, the user has been told.
-bool EventEditor::CollectDetails(ReminderKind kind) {
+// Whether the reminder can be given; if not, the user knows.
+DetailsAnswer EventEditor::CollectDetails(ReminderKind kind) {
     if (kind_ != kind) {
         extra_ = {}; // a telephone number is no media file
     }
@@ -133,32 +137,32 @@ bool EventEditor::CollectDetails(ReminderKind kind) {
     case ReminderKind::Speak:
         if (rooms_.Settings.SpeechEnabled == 0) {
             ShowRefusal({texts::kNoSpeech, texts::kDownloadSpeech, texts::kEnableSpeech});
-            return false;
+            return DetailsAnswer::SwitchedOff;
         }
-        return true;
+        return DetailsAnswer::Given;
     case ReminderKind::Phone:
         if (rooms_.Settings.ModemDescription.empty() || rooms_.Details.Modem() != ModemState::On) {
             ShowRefusal({texts::kNoCallModemDisabled, texts::kEnableModem});
-            return false;
+            return DetailsAnswer::SwitchedOff;
         }
         return rooms_.Details.AskPhoneNumbers(extra_);
     case ReminderKind::Media:
         if (!rooms_.Details.SoundWorks()) {
             ShowRefusal({texts::kNoWaveSounds, texts::kAtTheMoment});
-            return false;
+            return DetailsAnswer::SwitchedOff;
         }
-        return CollectMediaFile();
+        return AnswerOf(CollectMediaFile());
     case ReminderKind::Music:
         if (!rooms_.Details.CdWorks()) {
             ShowRefusal({texts::kCdInactive, texts::kAtTheMoment});
-            return false;
+            return DetailsAnswer::SwitchedOff;
         }
-        return true;
+        return DetailsAnswer::Given;
     case ReminderKind::Email: return rooms_.Details.AskMailAddress(extra_);
     case ReminderKind::Screen:
-    case ReminderKind::None: return true;
+    case ReminderKind::None: return DetailsAnswer::Given;
     }
-    return true;
+    return DetailsAnswer::Given;
 }
 
 // A note that cannot be handled now ends the change: nothing is saved without it.
@@ -283,7 +287,13 @@ AcceptResult EventEditor::Accept(EventDraft& draft) {
             return AcceptResult::Refused;
         }
         const auto kind = ReminderKindOf(rooms_.Texts, draft.Rmd);
-        if (kind && !CollectDetails(*kind)) {
+        const ReminderExtra extra = extra_;
+        const auto answer = kind ? CollectDetails(*kind) : DetailsAnswer::Given;
+        if (answer == DetailsAnswer::NotNow) {
+            extra_ = extra;
+            return AcceptResult::Refused;
+        }
+        if (answer == DetailsAnswer::SwitchedOff) {
             draft.Rmd = ReminderCaption(rooms_.Texts, ReminderKind::Screen);
         }
     }

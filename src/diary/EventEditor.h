@@ -93,7 +93,7 @@ private:
 
     [[nodiscard]] std::optional<DayPlace> Day(const CalendarDate& date) const;
     [[nodiscard]] bool RefusesRepeat(const EventDraft& draft);
-    [[nodiscard]] bool CollectDetails(ReminderKind kind);
+    [[nodiscard]] DetailsAnswer CollectDetails(ReminderKind kind);
     [[nodiscard]] bool CollectMediaFile();
     void ShowRefusal(std::initializer_list<TextId> lines);
 

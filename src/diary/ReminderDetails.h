@@ -12,6 +12,13 @@ namespace kestrova {
 // event copies them into its Extra.
 using ReminderExtra = std::array<std::string, 4>;
 
+// What has become of asking the user for the details of a reminder.
+enum class DetailsAnswer {
+    Given,
+    SwitchedOff, // the user does without this reminder
+    NotNow       // nobody could be asked, of which the user has been told
+};
+
 // What the event editor asks of those who deliver reminders, without knowing them.
 class ReminderDetails {
 public:
@@ -24,9 +31,8 @@ public:
     [[nodiscard]] virtual bool CdWorks() const = 0;
 
     // Lets the user give telephone numbers or a mail address; returns when that window is closed.
-    // False when the user has switched the channel off meanwhile.
-    virtual bool AskPhoneNumbers(ReminderExtra& extra) = 0;
-    virtual bool AskMailAddress(ReminderExtra& extra) = 0;
+    virtual DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) = 0;
+    virtual DetailsAnswer AskMailAddress(ReminderExtra& extra) = 0;
 
     // Plays a wave file once.
     virtual void Preview(const std::string& path) = 0;

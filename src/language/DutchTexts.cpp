@@ -199,6 +199,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Vul het wachtwoord van deze gebruiker in."},
     {MailKeyringMissing, "De sleutelbos heeft het mailwachtwoord niet opgenomen. Kestrova vraagt "
                          "er na de volgende start opnieuw om."},
+    {CallUnderWay, "Er is een telefoongesprek bezig. Probeer het daarna opnieuw."},
+    {SpokenMessage, "Bericht %1"},
     {MailBusy, "Er is een andere mail onderweg. Probeer het zo meteen opnieuw."},
     {MailNoLibrary,
      "Er kan geen mail worden verstuurd: een bibliotheek die Kestrova nodig heeft, ontbreekt."},

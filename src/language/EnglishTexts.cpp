@@ -197,6 +197,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Enter the password of this user."},
     {MailKeyringMissing, "The desktop's keyring did not take the mail password. Kestrova will ask "
                          "for it again after its next start."},
+    {CallUnderWay, "A telephone call is under way. Please try again when it is over."},
+    {SpokenMessage, "Message %1"},
     {MailBusy, "Another mail is on its way. Please try again in a moment."},
     {MailNoLibrary, "Mail cannot be sent: a library that Kestrova needs for it is missing."},
     {MailUnreachable, "The mail server %1 cannot be reached. The mail has not been sent."},

@@ -200,6 +200,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Entrez le mot de passe de cet utilisateur."},
     {MailKeyringMissing, "Le trousseau du bureau n'a pas accepté le mot de passe. Kestrova le "
                          "redemandera après son prochain démarrage."},
+    {CallUnderWay, "Un appel est en cours. Réessayez quand il sera terminé."},
+    {SpokenMessage, "Message %1"},
     {MailBusy, "Un autre message est en cours d'envoi. Réessayez dans un instant."},
     {MailNoLibrary,
      "Impossible d'envoyer du courrier : il manque une bibliothèque dont Kestrova a besoin."},

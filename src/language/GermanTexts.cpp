@@ -203,6 +203,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Geben Sie das Passwort dieses Benutzers ein."},
     {MailKeyringMissing, "Der Schlüsselbund hat das Mailpasswort nicht aufgenommen. Kestrova fragt "
                          "nach dem nächsten Start wieder danach."},
+    {CallUnderWay, "Ein Anruf ist gerade im Gange. Versuchen Sie es danach noch einmal."},
+    {SpokenMessage, "Termin %1"},
     {MailBusy, "Eine andere Mail ist gerade unterwegs. Versuchen Sie es gleich noch einmal."},
     {MailNoLibrary,
      "Mails können nicht verschickt werden: Eine Bibliothek, die Kestrova dafür braucht, fehlt."},

@@ -200,6 +200,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Inserire la password di questo utente."},
     {MailKeyringMissing, "Il portachiavi non ha accettato la password della posta. Kestrova la "
                          "chiederà di nuovo dopo il prossimo avvio."},
+    {CallUnderWay, "È in corso una telefonata. Riprovare quando sarà finita."},
+    {SpokenMessage, "Messaggio %1"},
     {MailBusy, "Un altro messaggio è in fase di invio. Riprovare tra un momento."},
     {MailNoLibrary, "Impossibile inviare posta: manca una libreria necessaria a Kestrova."},
     {MailUnreachable, "Il server %1 non è raggiungibile. Il messaggio non è stato inviato."},

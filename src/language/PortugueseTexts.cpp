@@ -197,6 +197,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Digite a senha deste usuário."},
     {MailKeyringMissing, "O chaveiro não aceitou a senha do e-mail. O Kestrova a pedirá novamente "
                          "após o próximo início."},
+    {CallUnderWay, "Uma ligação está em andamento. Tente de novo quando ela terminar."},
+    {SpokenMessage, "Mensagem %1"},
     {MailBusy, "Outro e-mail está sendo enviado. Tente de novo em instantes."},
     {MailNoLibrary,
      "Não é possível enviar e-mails: falta uma biblioteca de que o Kestrova precisa."},

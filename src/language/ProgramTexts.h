@@ -202,6 +202,8 @@ enum class ProgramText {
     MailBadPort,
     MailNeedsPassword,
     MailKeyringMissing,
+    CallUnderWay,
+    SpokenMessage,
     MailBusy,
     MailNoLibrary,
     MailUnreachable,

@@ -198,6 +198,8 @@ constexpr ProgramTextRow kRows[] = {
     {MailNeedsPassword, "Escriba la contraseña de este usuario."},
     {MailKeyringMissing, "El depósito de claves no ha aceptado la contraseña del correo. Kestrova "
                          "volverá a pedirla tras el próximo inicio."},
+    {CallUnderWay, "Hay una llamada en curso. Inténtelo de nuevo cuando termine."},
+    {SpokenMessage, "Mensaje %1"},
     {MailBusy, "Se está enviando otro correo. Inténtelo de nuevo dentro de un momento."},
     {MailNoLibrary, "No se puede enviar correo: falta una biblioteca que Kestrova necesita."},
     {MailUnreachable, "No se puede acceder al servidor %1. El correo no se ha enviado."},

@@ -53,7 +53,13 @@ std::optional<std::string> MailService::KnownPassword(const MailAccount& account
     if (name == passwordName_) {
         return password_;
     }
+    if (name == refused_) {
+        return std::nullopt;
+    }
     const auto kept = rooms_.Passwords.Read(name);
+    if (!kept && kept.Failure().Code == ErrorCode::Failed) {
+        refused_ = name;
+    }
     if (!kept || kept.Value().empty()) {
         return std::nullopt;
     }
@@ -100,6 +106,12 @@ Status MailService::TakeAccount(const MailAccount& account, const std::string& p
     return Done{};
 }
 
+void MailService::LogOnCancelled() {
+    if (!std::exchange(mailFailed_, true)) {
+        rooms_.Tell(TextOf(rooms_.Texts, ProgramText::MailRemindersWait));
+    }
+}
+
 // Shows the dialog until there is an account; false when the user has had enough.
 bool MailService::AskUntilKnown(std::optional<MailServer>& server) {
     while (askAgain_ || !server) {
@@ -119,7 +131,9 @@ void MailService::LogOn(bool& loggedOn, LogOnDialog dialog) {
     }
     auto server = KnownServer();
     if (!server && dialog == LogOnDialog::LeaveOpen) {
-        rooms_.Windows.OfferLogOn(Offer());
+        if (!rooms_.Windows.IsLogOnOpen()) {
+            rooms_.Windows.OfferLogOn(Offer());
+        }
         return;
     }
     if (dialog == LogOnDialog::Wait && !AskUntilKnown(server)) {
@@ -211,10 +225,16 @@ void MailService::SendToFriends(const std::string& name, const InvitedFriends& f
 
 MailStatus MailService::SendInvitation(const std::string& name, const InvitedFriends& friends) {
     if (busy_) {
-        complaint_ = TextOf(rooms_.Texts, ProgramText::MailBusy);
+        invitationComplaint_ = TextOf(rooms_.Texts, ProgramText::MailBusy);
         return MailStatus::TryLater;
     }
     const Raised busy(busy_);
+    const MailStatus status = Invite(name, friends);
+    invitationComplaint_ = complaint_;
+    return status;
+}
+
+MailStatus MailService::Invite(const std::string& name, const InvitedFriends& friends) {
     const bool failedBefore = mailFailed_;
     bool loggedOn = false;
     MailIni();

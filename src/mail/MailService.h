@@ -31,7 +31,8 @@ inline constexpr std::string_view kReminderSubject = "Kestrova Messenger";
 //
 // An account that is not there yet is no failure: a reminder shows the log-on dialog, does not wait
 // for it and stays due, as nobody may be sitting there. Cancelling that dialog is one, or it would
-// come back every minute.
+// come back every minute. A keyring that the user does not open is not asked again for the same
+// reason: the dialog then asks for the password.
 class MailService : public ReminderMail {
 public:
     struct Rooms {
@@ -56,7 +57,7 @@ public:
     MailStatus SendInvitation(const std::string& name, const InvitedFriends& friends);
 
     // Why the last invitation has not been sent, for the user; empty when the user broke it off.
-    [[nodiscard]] const std::string& Complaint() const { return complaint_; }
+    [[nodiscard]] const std::string& Complaint() const { return invitationComplaint_; }
 
     // Breaks off what is under way.
     void BreakOff() { brokenOff_ = true; }
@@ -70,7 +71,7 @@ public:
     // The user's account as the log-on dialog has it. An empty password leaves the known one. A
     // failure is that of writing the account file; a keyring that takes no password is told.
     Status TakeAccount(const MailAccount& account, const std::string& password);
-    void LogOnCancelled() { mailFailed_ = true; }
+    void LogOnCancelled();
 
 private:
     enum class LogOnDialog { Wait, LeaveOpen };
@@ -80,6 +81,9 @@ private:
     void LogOff() { mapSess_.reset(); }
     bool ComposeMail(const std::string& name, const std::string& address, const std::string& text,
                      std::string_view subject);
+
+    // What is sent, the busy flag being up.
+    MailStatus Invite(const std::string& name, const InvitedFriends& friends);
 
     [[nodiscard]] std::optional<MailServer> KnownServer();
     [[nodiscard]] std::optional<std::string> KnownPassword(const MailAccount& account);
@@ -93,13 +97,15 @@ private:
     bool busy_ = false;
     bool brokenOff_ = false;
     bool askAgain_ = false; // signing on has failed with the account as it is
-    std::string complaint_;
+    std::string complaint_; // about the mail under way
+    std::string invitationComplaint_;
 
     std::unique_ptr<MailSession> mapSess_; // nobody is signed on without it
     Letter mapMess_;
     std::string server_; // of the session
     std::string passwordName_;
-    std::string password_; // of that name, for this run
+    std::string password_;               // of that name, for this run
+    std::optional<std::string> refused_; // the name for which the keyring has not been opened
 };
 
 } // namespace kestrova

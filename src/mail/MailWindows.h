@@ -40,6 +40,8 @@ public:
     // handles events until it is closed. False when the user has cancelled.
     virtual bool AskLogOn(const LogOnOffer& offer) = 0;
 
+    [[nodiscard]] virtual bool IsLogOnOpen() const = 0;
+
     // Shows it without waiting and without taking the keyboard: perhaps nobody is there. Nothing
     // happens when it is open already. Cancelling tells `MailService::LogOnCancelled`.
     virtual void OfferLogOn(const LogOnOffer& offer) = 0;

@@ -15,6 +15,7 @@ using std::chrono::seconds;
 
 constexpr int kReplySeconds = 20;
 constexpr int kHangUpSeconds = 3;
+constexpr seconds kGrace{5}; // for a wait to notice that its time is up
 
 // More than any answer that is read. Of a modem that never stops the first and the last bytes are
 // kept: the first are its answer, the last may be its result.
@@ -32,10 +33,40 @@ std::string_view ReplyText(Reply reply) {
     return reply == Reply::Error ? "ERROR" : "OK";
 }
 
-bool ModemLine::Open(std::string_view choice, std::string_view settings) {
+Status ModemLine::Open(std::string_view choice, std::string_view settings) {
     const int number = choice.empty() ? 0 : choice.back() - '0';
     sounding_ = sounding_ && port_.IsOpen();
-    return port_.Open(number, settings).Ok();
+    return port_.Open(number, settings);
+}
+
+void ModemLine::Stop() {
+    stopped_ = true;
+    due_ = std::min(due_, std::chrono::steady_clock::now());
+}
+
+void ModemLine::End() {
+    ended_ = true;
+    Stop();
+}
+
+bool ModemLine::Wait(const std::function<bool()>& predicate, milliseconds limit) {
+    due_ = std::chrono::steady_clock::now() + limit;
+    const bool holds = loop_.WaitUntil(predicate, limit);
+    due_ = Moment::max();
+    return holds;
+}
+
+void ModemLine::DropOverdue(Moment now) {
+    if (due_ == Moment::max() || now < due_ + kGrace || !port_.IsOpen()) {
+        return;
+    }
+    if (sounding_) {
+        port_.Stream({}, 1);
+        port_.Write(kDropAndEnd);
+        sounding_ = false;
+    }
+    port_.Write("ATH0\r");
+    port_.Close();
 }
 
 void ModemLine::Gather() {
@@ -57,7 +88,7 @@ bool ModemLine::HoldsAny(std::initializer_list<std::string_view> texts) const {
 void ModemLine::Collect(std::initializer_list<std::string_view> ends, milliseconds limit,
                         Patience patience) {
     buffer_.clear();
-    loop_.WaitUntil(
+    Wait(
         [&] {
             Gather();
             return HoldsAny(ends) || !port_.IsOpen() ||
@@ -154,11 +185,11 @@ void ModemLine::HangUp() {
 }
 
 void ModemLine::Rest(milliseconds time) {
-    loop_.WaitUntil([this] { return stopped_; }, time);
+    Wait([this] { return stopped_; }, time);
 }
 
 void ModemLine::WaitFor(const std::function<bool()>& predicate, milliseconds limit) {
-    loop_.WaitUntil([&] { return predicate() || stopped_ || !port_.IsOpen(); }, limit);
+    Wait([&] { return predicate() || stopped_ || !port_.IsOpen(); }, limit);
 }
 
 } // namespace kestrova

@@ -35,8 +35,9 @@ class ModemLine {
 public:
     ModemLine(SerialPort& port, EventLoop& loop) : port_(port), loop_(loop) {}
 
-    // Opens the port that the settings name ("Com:2") unless it is open; false when it cannot be.
-    bool Open(std::string_view choice, std::string_view settings);
+    // Opens the port that the settings name ("Com:2") unless it is open. NotFound, Busy (somebody
+    // else's) or Failed.
+    [[nodiscard]] Status Open(std::string_view choice, std::string_view settings);
     [[nodiscard]] bool IsOpen() const { return port_.IsOpen(); }
     void Close() { port_.Close(); }
 
@@ -68,15 +69,22 @@ public:
 
     // Every wait of the call that is under way ends at once. With `Ended`, so do those of all later
     // ones.
-    void Stop() { stopped_ = true; }
-    void End() { stopped_ = ended_ = true; }
+    void Stop();
+    void End();
     void Begin() { stopped_ = ended_; }
     [[nodiscard]] bool Stopped() const { return stopped_; }
     [[nodiscard]] bool Ended() const { return ended_; }
 
+    // A wait cannot end while something that was opened meanwhile, a message say, handles events
+    // in its place. To be called now and then: when a wait should have ended a while ago, hangs up
+    // without waiting for a reply and closes the port, and whoever waits will find it closed.
+    void DropOverdue(std::chrono::steady_clock::time_point now);
+
 private:
+    using Moment = std::chrono::steady_clock::time_point;
     enum class Patience { UntilStopped, ToTheEnd };
 
+    bool Wait(const std::function<bool()>& predicate, std::chrono::milliseconds limit);
     void Gather();
     [[nodiscard]] bool Holds(std::string_view text) const;
     [[nodiscard]] bool HoldsAny(std::initializer_list<std::string_view> texts) const;
@@ -89,7 +97,8 @@ private:
     std::string buffer_;
     bool stopped_ = false;
     bool ended_ = false;
-    bool sounding_ = false; // the modem takes what is sent for sound
+    bool sounding_ = false;      // the modem takes what is sent for sound
+    Moment due_ = Moment::max(); // when the wait under way is to have ended
 };
 
 } // namespace kestrova

@@ -45,9 +45,9 @@ std::string AnswerIn(std::string_view reply, std::string_view query) {
 }
 
 bool ModemProbe::ModemPresent() {
-    // A port that cannot be opened answers "ERROR".
-    (void)rooms_.Line.Open(rooms_.Settings.ModemPort, kPortSettings);
-    if (!HoldsOk(rooms_.Line.Ask(kWakeUp, kAnswerSeconds))) {
+    const Status opened = rooms_.Line.Open(rooms_.Settings.ModemPort, kPortSettings);
+    trouble_ = opened ? std::string() : opened.Failure().Text;
+    if (!opened || !HoldsOk(rooms_.Line.Ask(kWakeUp, kAnswerSeconds))) {
         rooms_.Settings.ModemPort = rooms_.Texts.Text(texts::kModemPorts);
         return false;
     }

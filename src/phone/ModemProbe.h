@@ -34,6 +34,9 @@ public:
     // seconds, handling events, and leaves the port open.
     bool ModemPresent();
 
+    // Why the port could not be opened the last time; empty when it could.
+    [[nodiscard]] const std::string& Trouble() const { return trouble_; }
+
     // Finds the script of the modem that the settings describe. Tells the user when there is no
     // modem list.
     void ValidSpeechModem();
@@ -43,6 +46,7 @@ public:
 private:
     Rooms rooms_;
     ModemScript script_;
+    std::string trouble_;
 };
 
 // What a modem has said to an identification query: the first line of its reply that is not the

@@ -21,6 +21,9 @@ public:
     // it was acknowledged. Handles events while it runs.
     virtual bool SendMessage(const std::string& dialString, const std::string& message) = 0;
 
+    // Whether the user has stopped the last call.
+    [[nodiscard]] virtual bool WasStopped() const = 0;
+
     // Lets the line rest for so many seconds, handling events.
     virtual void Delay(int seconds) = 0;
 };

@@ -42,6 +42,7 @@ bool VoiceCaller::SendMessage(const std::string& dialString, const std::string& 
     }
     busy_ = true;
     line_.Begin();
+    const KeptForCall kept(rooms_.Speech);
     const CallMode mode = rooms_.Settings.BeepAcknowledge != 0 ? CallMode::Beep : CallMode::Speak;
     VoiceCall call({line_, rooms_.Speech, rooms_.Texts, probe_.Script(), rooms_.Screen()},
                    {rooms_.Settings.ModemPort, dialString, message, mode},

@@ -7,6 +7,7 @@
 #include "phone/PhoneCaller.h"
 #include "speech/Speaker.h"
 
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -38,6 +39,9 @@ public:
     // Leaves the port closed. While a call runs there is a modem.
     bool ModemPresent() override;
 
+    // Why the port could not be opened in the last search; empty when it could.
+    [[nodiscard]] const std::string& PortTrouble() const { return probe_.Trouble(); }
+
     // On while the settings name a port, unless the user has switched telephoning off since.
     [[nodiscard]] ModemState Modem() const override;
 
@@ -53,6 +57,11 @@ public:
 
     // Ends the call that is under way; it hangs up, and `SendMessage` returns.
     void Stop();
+    [[nodiscard]] bool WasStopped() const override { return line_.Stopped(); }
+
+    // To be called with the clock's ticks: a call that something holds up is given up, so that no
+    // line stays open for as long as a message stands.
+    void Tick(std::chrono::steady_clock::time_point now) { line_.DropOverdue(now); }
 
     // The program is ending: so does the call, and no other begins.
     void End();

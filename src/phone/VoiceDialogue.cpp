@@ -65,8 +65,12 @@ Reply VoiceDialogue::RunLines(ScriptLines lines) {
 }
 
 Reply VoiceDialogue::InitModem(const std::string& port) {
-    (void)rooms_.Line.Open(port, // the first command tells when it cannot be
-                           TransmitLine(rooms_.Script) != 0 ? kVoicePortSettings : kPortSettings);
+    const Status opened = rooms_.Line.Open(
+        port, TransmitLine(rooms_.Script) != 0 ? kVoicePortSettings : kPortSettings);
+    if (!opened) {
+        rooms_.Screen.Print(std::string(kNoReply) + opened.Failure().Text);
+        return Reply::Error;
+    }
     if (ModemCommand("ATV1Q0 E1") == Reply::Error) {
         return Reply::Error;
     }
@@ -95,7 +99,7 @@ Reply VoiceDialogue::SayThroughLine(const std::string& words, AfterSpeaking afte
 }
 
 Reply VoiceDialogue::SayThroughCard(const std::string& words, AfterSpeaking after) {
-    rooms_.Speech.Talk(words, after);
+    rooms_.Speech.TalkInCall(words, after);
     rooms_.Line.WaitFor([this] { return !rooms_.Speech.IsSpeaking(); }, LongestSpeech(words));
     return rooms_.Line.Stopped() ? Reply::Error : Reply::Ok;
 }

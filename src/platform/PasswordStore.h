@@ -13,8 +13,9 @@ class PasswordStore {
 public:
     virtual ~PasswordStore() = default;
 
-    // NotFound when the keyring has no password under this name; Failed when there is no keyring,
-    // or it does not answer, or the user does not open it.
+    // NotFound when the keyring has no password under this name; Busy while it has not answered,
+    // perhaps because it asks the user, whose answer a later call brings; Failed when there is no
+    // keyring, or the user does not open it.
     virtual Result<std::string> Read(const std::string& name) = 0;
 
     // Keeps a password, in the place of an older one of this name.

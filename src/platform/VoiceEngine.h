@@ -41,7 +41,7 @@ public:
     [[nodiscard]] virtual bool HasVoice(const std::string& locale) = 0;
 
     // Speaks a text (UTF-8). Takes milliseconds for a sentence. NotFound: no engine, or no such
-    // voice.
+    // voice. TooLarge: a text that would keep the program for too long.
     [[nodiscard]] virtual Result<SpokenSound> Say(const std::string& text,
                                                   const VoiceChoice& choice) = 0;
 };

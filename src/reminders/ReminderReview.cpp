@@ -72,6 +72,9 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
     const int minute = now.Hour * 60 + now.Minute;
     const std::string folder = rooms_.Store.Folder();
     for (const DiaryEvent& event : events) {
+        if (ended_) {
+            break; // what is due stays due for the next start
+        }
         if (event.IsFree() || event.Key() > minute ||
             !FindExactly(rooms_.Store.Table(), Today(), event)) {
             continue;
@@ -190,15 +193,24 @@ bool ReminderReview::Announce(const DiaryEvent& event) {
         rooms_.Bell.Beep();
         return true;
     }
-    speech.SetStopSpeaking(false);
+    const int clicks = speech.Clicks();
     speech.Show();
     for (const std::string& text :
          {TextOf(rooms_.Texts, ProgramText::ReminderService), event.Msg,
           TextOf(rooms_.Texts, ProgramText::SpokenAt), SpokenTime(event)}) {
         speech.Speak(text);
     }
-    const bool acknowledged =
-        rooms_.Loop.WaitUntil([&] { return speech.StopSpeaking(); }, kAcknowledgeTime);
+    const bool acknowledged = rooms_.Loop.WaitUntil(
+        [&] {
+            if (speech.Clicks() != clicks) {
+                return true;
+            }
+            if (!speech.IsVisible()) {
+                speech.Show(); // other words have ended meanwhile, and taken it away
+            }
+            return false;
+        },
+        kAcknowledgeTime);
     if (speech.IsVisible()) {
         speech.Hide();
     }
@@ -233,7 +245,7 @@ bool ReminderReview::CallNumbers(const DiaryEvent& event) {
             const bool is101 = rooms_.Settings.ModemName == kIs101Family;
             done = rooms_.Phone.SendMessage("ATD" + number + (is101 ? ";" : ""), event.Msg);
         }
-        if (done || rooms_.Phone.Modem() != ModemState::On) {
+        if (done || rooms_.Phone.WasStopped() || rooms_.Phone.Modem() != ModemState::On) {
             return done;
         }
         if (!number.empty() && i != kNumbers.back()) {

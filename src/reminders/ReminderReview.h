@@ -53,6 +53,9 @@ public:
     // event again by what it holds. Returns the lines for the reminder window, in order.
     std::vector<std::string> Review(const WallTime& now, PassKind kind);
 
+    // The program is ending: a review that is under way delivers nothing more.
+    void End() { ended_ = true; }
+
     // Whether a review has marked events of the diary shown that its file does not have marked.
     [[nodiscard]] bool HasChanges() const;
 
@@ -81,6 +84,7 @@ private:
     void ApplyMarks(DiaryTable& table) const;
 
     Rooms rooms_;
+    bool ended_ = false;
     int speakRepeatCount_ = 0; // SpeakRepeatCount
     int phoneRepeatCount_ = 0; // PhoneRepeatCount
     std::vector<std::string> lines_;

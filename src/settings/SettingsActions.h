@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Result.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,9 +49,9 @@ public:
     // A port for the modem has been chosen.
     virtual void PortChosen() = 0;
 
-    // Looks for a modem on the port that the settings name. Its description; nothing when none
-    // answers. Takes seconds, handling events.
-    virtual std::optional<std::string> FindModem() = 0;
+    // Looks for a modem on the port that the settings name. Its description; when none answers,
+    // why the port cannot be had, or no text. Takes seconds, handling events.
+    [[nodiscard]] virtual Result<std::string> FindModem() = 0;
 
     // Whether sounds can be heard now.
     [[nodiscard]] virtual bool SoundWorks() const = 0;

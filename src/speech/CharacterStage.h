@@ -22,7 +22,7 @@ class CharacterStage {
 public:
     // They come from the event loop, never from within a call.
     struct Events {
-        std::function<void()> Clicked; // never while the character is hidden
+        std::function<void()> Clicked; // also when it has been hidden and is about to go
         std::function<void()> TimeUp;  // what was given to Say has had its time
     };
 

@@ -43,12 +43,39 @@ public:
     [[nodiscard]] virtual bool StopSpeaking() const = 0;
     virtual void SetStopSpeaking(bool stop) = 0;
 
+    // How often the user has clicked the character while it was to be seen. Unlike the flag, which
+    // ends whatever is talked, it is never set back.
+    [[nodiscard]] virtual int Clicks() const = 0;
+
     // Speaks a text of any length and returns when it has been spoken. Nothing happens while speech
     // is switched off.
     virtual void Talk(const std::string& text, AfterSpeaking after) = 0;
 
     // Shows the character and speaks a short text without waiting.
     virtual void TellTime(const std::string& text, AfterSpeaking after) = 0;
+
+    // A telephone call begins, whose open line hears what is said: until it ends, nothing is talked
+    // but by TalkInCall, and no time is told. What is talked when it begins ends with the piece
+    // that is being spoken. Reminders are not talked but spoken, and are not kept from anybody.
+    virtual void BeginCall() = 0;
+    virtual void EndCall() = 0;
+
+    // As Talk, for the call.
+    virtual void TalkInCall(const std::string& text, AfterSpeaking after) = 0;
+};
+
+// Keeps the character for a call for as long as it lives.
+class KeptForCall {
+public:
+    explicit KeptForCall(Speaker& speech) : speech_(speech) { speech_.BeginCall(); }
+    ~KeptForCall() { speech_.EndCall(); }
+    KeptForCall(const KeptForCall&) = delete;
+    KeptForCall& operator=(const KeptForCall&) = delete;
+    KeptForCall(KeptForCall&&) = delete;
+    KeptForCall& operator=(KeptForCall&&) = delete;
+
+private:
+    Speaker& speech_;
 };
 
 } // namespace kestrova

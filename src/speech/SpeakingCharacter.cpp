@@ -120,6 +120,7 @@ void SpeakingCharacter::AgentIni() {
 }
 
 void SpeakingCharacter::AgentTer() {
+    EndTalk();
     CurrentCharacter.reset();
     Agent1.reset();
 }
@@ -138,6 +139,7 @@ bool SpeakingCharacter::LoadMerlin() {
     auto read = ReadCharacter(settings.CharacterName);
     if (auto* const figure = std::get_if<CharacterFigure>(&read)) {
         AgentIni();
+        EndTalk();
         Agent1->Unload();
         Agent1->Load(std::move(*figure));
         CurrentCharacter = settings.CharacterName;
@@ -236,40 +238,70 @@ Result<SpokenSound> SpeakingCharacter::Record(const std::string& text) {
                                    rooms_.Settings.SpeechPitch, rooms_.Settings.SpeechSpeed});
 }
 
+void SpeakingCharacter::SetStopSpeaking(bool stop) {
+    stopSpeaking_ = stop;
+    if (stop) {
+        EndTalk();
+    }
+}
+
 void SpeakingCharacter::Talk(const std::string& text, AfterSpeaking after) {
-    if (rooms_.Settings.SpeechEnabled == 0 || text.empty() || !AgentLoaded()) {
+    if (!inCall_) {
+        TalkAll({text, after});
+    }
+}
+
+void SpeakingCharacter::TalkInCall(const std::string& text, AfterSpeaking after) {
+    TalkAll({text, after});
+}
+
+void SpeakingCharacter::BeginCall() {
+    EndTalk();
+    inCall_ = true;
+}
+
+// Whoever is talking does so further down the stack, and finds out there.
+void SpeakingCharacter::EndTalk() {
+    ++endings_;
+    talking_ = false;
+    later_.clear();
+}
+
+void SpeakingCharacter::TalkAll(LongText text) {
+    if (rooms_.Settings.SpeechEnabled == 0 || text.Text.empty() || !AgentLoaded()) {
         return;
     }
-    later_.push_back({text, after});
+    later_.push_back(std::move(text));
     if (std::exchange(talking_, true)) {
         return;
     }
-    stopSpeaking_ = false; // a click on a character that told the time was for nobody
-    while (!later_.empty()) {
+    const int begun = endings_;
+    while (endings_ == begun && !later_.empty()) {
         const LongText next = std::move(later_.front());
         later_.pop_front();
         TalkOne(next);
-        if (stopSpeaking_) {
-            later_.clear();
-        }
     }
-    talking_ = false;
+    if (endings_ == begun) {
+        talking_ = false;
+    }
     stopSpeaking_ = false;
 }
 
-// While it waits, anything may happen: the character may even be released.
+// While it waits, anything may happen: the character may be hidden by somebody else who has spoken,
+// exchanged, or even released.
 void SpeakingCharacter::TalkOne(const LongText& text) {
-    Show();
-    for (const std::string& piece : CutSpeech(text.Text)) {
-        if (stopSpeaking_ || !AgentLoaded()) {
+    const int begun = endings_;
+    for (const std::string& piece : CutLongPieces(CutSpeech(text.Text))) {
+        if (endings_ != begun || !AgentLoaded()) {
             break;
         }
+        Show();
         Speak(WithMarks(rooms_.Settings.SpeechPitch, rooms_.Settings.SpeechSpeed, piece));
         const bool spoken = rooms_.Loop.WaitUntil(
             [this] { return !AgentLoaded() || Agent1->Status() == AudioStatus::Available; },
             LongestPiece(piece));
-        if (!spoken) {
-            stopSpeaking_ = true; // the program ends
+        if (!spoken && endings_ == begun) {
+            EndTalk(); // the program ends
         }
     }
     if (text.After == AfterSpeaking::Hide) {
@@ -278,6 +310,9 @@ void SpeakingCharacter::TalkOne(const LongText& text) {
 }
 
 void SpeakingCharacter::TellTime(const std::string& text, AfterSpeaking after) {
+    if (inCall_) {
+        return;
+    }
     Show();
     Speak(text);
     if (after == AfterSpeaking::Hide) {
@@ -289,7 +324,8 @@ void SpeakingCharacter::Agent1_Click() {
     if (IsVisible()) {
         Agent1->Stop();
         Agent1->Hide();
-        stopSpeaking_ = true;
+        ++clicks_;
+        SetStopSpeaking(true);
         return;
     }
     const WallTime now = rooms_.Time.Now();

@@ -49,11 +49,11 @@ public:
 
     void AgentIni();
 
-    // Silences, hides and unloads the character.
+    // Silences, hides and unloads the character, which ends what is talked.
     void AgentTer();
 
-    // Loads the character that the settings name, or the first one there is. Without any, speech is
-    // switched off. False when none is loaded then.
+    // Loads the character that the settings name, or the first one there is, which ends what is
+    // talked. Without any, speech is switched off. False when none is loaded then.
     bool LoadMerlin();
 
     // Whether what speaking a language takes is installed; when not, offers the pages that help.
@@ -78,12 +78,16 @@ public:
     [[nodiscard]] bool IsSpeaking() const override;
     [[nodiscard]] Result<SpokenSound> Record(const std::string& text) override;
     [[nodiscard]] bool StopSpeaking() const override { return stopSpeaking_; }
-    void SetStopSpeaking(bool stop) override { stopSpeaking_ = stop; }
+    void SetStopSpeaking(bool stop) override;
+    [[nodiscard]] int Clicks() const override { return clicks_; }
 
     // A text that comes while another is being talked, out of an event, is talked after it: the
     // call returns at once then.
     void Talk(const std::string& text, AfterSpeaking after) override;
     void TellTime(const std::string& text, AfterSpeaking after) override;
+    void BeginCall() override;
+    void EndCall() override { inCall_ = false; }
+    void TalkInCall(const std::string& text, AfterSpeaking after) override;
 
 private:
     struct LeftOutFile {
@@ -101,7 +105,9 @@ private:
     [[nodiscard]] std::string ReasonOf(const CharacterFault& fault) const;
     [[nodiscard]] std::string VoiceLocale(int languageIndex) const;
     [[nodiscard]] bool CanCreate(const std::string& classId);
+    void TalkAll(LongText text);
     void TalkOne(const LongText& text);
+    void EndTalk();
 
     Rooms rooms_;
     std::vector<std::string> characters_; // what the list CombChr shows
@@ -109,7 +115,10 @@ private:
     std::unique_ptr<SpeechAgent> Agent1;
     std::optional<std::string> CurrentCharacter; // the name of its file
     bool stopSpeaking_ = false;                  // StopSpeaking
+    int clicks_ = 0;
+    bool inCall_ = false;
     bool talking_ = false;
+    int endings_ = 0; // how often talking has been ended: who began before has nothing more to say
     std::deque<LongText> later_;
 };
 

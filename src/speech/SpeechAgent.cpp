@@ -62,9 +62,11 @@ void SpeechAgent::Hide() {
 
 void SpeechAgent::Speak(const std::string& text, const std::string& locale) {
     const MarkedWords marked = ReadMarks(text);
-    waiting_.push_back(
-        {marked.Words,
-         {locale, marked.Pitch.value_or(kOwnPitch), marked.Speed.value_or(kOwnSpeed)}});
+    const VoiceChoice voice{locale, marked.Pitch.value_or(kOwnPitch),
+                            marked.Speed.value_or(kOwnSpeed)};
+    for (std::string& piece : CutLongPieces({marked.Words})) {
+        waiting_.push_back({std::move(piece), voice});
+    }
     if (!speaking_) {
         BeginNext();
     }

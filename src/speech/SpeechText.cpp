@@ -7,9 +7,10 @@ namespace kestrova {
 
 namespace {
 
-constexpr std::size_t kLongPiece = 60; // characters, from which on a piece may end at a blank
-constexpr std::size_t kShortWord = 5;  // places from the blank before it to the one behind it
-constexpr std::size_t kTail = 2;       // characters that are not worth a piece
+constexpr std::size_t kLongPiece = 60;    // characters, from which on a piece may end at a blank
+constexpr std::size_t kShortWord = 5;     // places from the blank before it to the one behind it
+constexpr std::size_t kTail = 2;          // characters that are not worth a piece
+constexpr std::size_t kMostAtATime = 600; // characters, which take a voice a moment
 constexpr std::string_view kPitchMark = "\\Pit=";
 constexpr std::string_view kSpeedMark = "\\Spd=";
 
@@ -73,6 +74,19 @@ std::string NextPiece(const Characters& text, std::size_t& place) {
     return piece;
 }
 
+// How many characters from a place on to give to a voice.
+std::size_t VoiceFull(const Characters& text, std::size_t place) {
+    const std::size_t left = text.Count() + 1 - place;
+    if (left <= kMostAtATime) {
+        return left;
+    }
+    std::size_t count = kMostAtATime;
+    while (count > 0 && !text.IsOneOf(place + count - 1, " \t\n")) {
+        --count;
+    }
+    return count > 0 ? count : kMostAtATime;
+}
+
 // The number of a mark at the front of the text, which is taken away with it.
 std::optional<int> TakeMark(std::string_view& text, std::string_view mark) {
     if (!text.starts_with(mark)) {
@@ -98,6 +112,21 @@ std::vector<std::string> CutSpeech(std::string_view text) {
         pieces.push_back(NextPiece(characters, place));
     }
     return pieces;
+}
+
+std::vector<std::string> CutLongPieces(const std::vector<std::string>& pieces) {
+    std::vector<std::string> all;
+    for (const std::string& piece : pieces) {
+        const Characters characters(piece);
+        for (std::size_t place = 1; place <= characters.Count();) {
+            const std::size_t end = place + VoiceFull(characters, place);
+            std::string& part = all.emplace_back();
+            for (; place < end; ++place) {
+                part += characters.At(place);
+            }
+        }
+    }
+    return all;
 }
 
 std::string WithMarks(int pitch, int speed, std::string_view words) {

@@ -13,6 +13,10 @@ namespace kestrova {
 // pieces together are the text (a line end that closes a piece stands in it twice).
 [[nodiscard]] std::vector<std::string> CutSpeech(std::string_view text);
 
+// Cuts such pieces further, behind a blank where there is one, as a voice is not to be given more
+// than some 600 characters at a time: a text without stop signs is a single piece, be it a book.
+[[nodiscard]] std::vector<std::string> CutLongPieces(const std::vector<std::string>& pieces);
+
 // Words with the marks that say how they are to be spoken.
 [[nodiscard]] std::string WithMarks(int pitch, int speed, std::string_view words);
 

@@ -17,22 +17,25 @@ inline constexpr DayPlace kDay{14, 4, 0};
 struct SetDetails : ReminderDetails {
     ModemState ModemIs = ModemState::Off;
     bool Mail = true;
+    DetailsAnswer MailAnswer = DetailsAnswer::Given;
     bool Sound = false;
     bool Cd = false;
     std::vector<std::string> Previews;
+    ReminderExtra Asked; // as the window of the telephone began with it
 
     ModemState Modem() const override { return ModemIs; }
     bool MailWorks() const override { return Mail; }
     bool SoundWorks() const override { return Sound; }
     bool VideoWorks() const override { return Sound; }
     bool CdWorks() const override { return Cd; }
-    bool AskPhoneNumbers(ReminderExtra& extra) override {
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) override {
+        Asked = extra;
         extra[1] = "5551234";
-        return ModemIs == ModemState::On;
+        return ModemIs == ModemState::On ? DetailsAnswer::Given : DetailsAnswer::SwitchedOff;
     }
-    bool AskMailAddress(ReminderExtra& extra) override {
+    DetailsAnswer AskMailAddress(ReminderExtra& extra) override {
         extra[2] = "bob@example.org";
-        return true;
+        return MailAnswer;
     }
     void Preview(const std::string& path) override { Previews.push_back(path); }
 };

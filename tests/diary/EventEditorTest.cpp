@@ -198,6 +198,27 @@ TEST(EventEditorTest, RemindersCollectTheirDetails) {
     EXPECT_EQ(table.At({5, kDay}).Extra[2], "bob@example.org");
 }
 
+TEST(EventEditorTest, AReminderWhoseDetailsCannotBeAskedForNowIsNotExchangedForAnother) {
+    EditorScene page;
+    page.Settings.ModemDescription = "A modem";
+    page.Details.ModemIs = ModemState::On;
+    EXPECT_EQ(page.Add("09", "x", "Never", "Phone"), AcceptResult::Accepted);
+    page.Details.MailAnswer = DetailsAnswer::NotNow;
+    EXPECT_EQ(page.Editor.BeginEdit(1), AcceptResult::Accepted);
+    EventDraft draft{"10", "00", "y", "Never", "Email", false};
+    EXPECT_EQ(page.Editor.Accept(draft), AcceptResult::Refused);
+    EXPECT_EQ(draft.Rmd, "Email");
+    EXPECT_EQ(page.OnFile().At({1, kDay}).Msg, "x");
+    // Whoever takes the telephone after all finds its numbers.
+    page.Details.Asked = {};
+    draft.Rmd = "Phone";
+    EXPECT_EQ(page.Editor.Accept(draft), AcceptResult::Accepted);
+    EXPECT_EQ(page.Details.Asked[1], "5551234");
+    page.Details.MailAnswer = DetailsAnswer::SwitchedOff;
+    EXPECT_EQ(page.Add("11", "z", "Never", "Email"), AcceptResult::Accepted);
+    EXPECT_EQ(page.OnFile().At({2, kDay}).Rmd, "Screen");
+}
+
 TEST(EventEditorTest, TheReminderListOffersWhatThereIs) {
     EditorScene page;
     EXPECT_THAT(page.Editor.BuildRmdList(),

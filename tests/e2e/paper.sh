@@ -55,7 +55,8 @@ note_file() {
 note_is() { printf '%s\r\n' "${@:5}" | cmp -s - "$(note_file "${@:1:4}")"; }
 
 # Writes an empty diary with the events given as lines "YEAR MONTH DAY SLOT|HOUR|MINUTE|MESSAGE|
-# REPEAT|REMINDER|DETAIL", the last of which is a media file, say. The file changes at once, as a careful program writes it.
+# REPEAT|REMINDER|DETAIL|DETAIL", the details being a media file, say, or a name and an address. The
+# file changes at once, as a careful program writes it.
 write_diary() {
     awk -F'|' '
         function put(text) { printf "%s\r\n", text }
@@ -65,7 +66,7 @@ write_diary() {
                 split(i in at ? at[i] : "|0|0|||", f, "|")
                 put(" " f[2] " "); put(" " f[3] " ")
                 put(f[4]); put(f[5]); put(f[6])
-                put(" 0 "); put(""); put(f[7]); put(""); put("")
+                put(" 0 "); put(""); put(f[7]); put(f[8]); put("")
             }
         }' >"$stage/diary.new"
     mv "$stage/diary.new" "$(diary_file)"

@@ -57,11 +57,14 @@ private:
 class FakeKeyring : public PasswordStore {
 public:
     bool There = true;
+    ErrorCode Trouble = ErrorCode::Failed; // when it is not there
+    int Reads = 0;
     std::map<std::string, std::string> Kept;
 
     Result<std::string> Read(const std::string& name) override {
+        ++Reads;
         if (!There) {
-            return Error{ErrorCode::Failed, {}};
+            return Error{Trouble, {}};
         }
         const auto found = Kept.find(name);
         return found == Kept.end() ? Result<std::string>(Error{ErrorCode::NotFound, {}})

@@ -23,6 +23,10 @@ public:
     void SetStopSpeaking(bool /*stop*/) override {}
     void Talk(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
     void TellTime(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
+    [[nodiscard]] int Clicks() const override { return 0; }
+    void BeginCall() override {}
+    void EndCall() override {}
+    void TalkInCall(const std::string& text, AfterSpeaking after) override { Talk(text, after); }
 };
 
 } // namespace kestrova

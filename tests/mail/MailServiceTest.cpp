@@ -25,6 +25,7 @@ struct NotedWindows : MailWindows {
     std::vector<LogOnOffer> Offers;
     std::function<bool()> Answer = [] { return false; };
     MailWindowMode Mode = MailWindowMode::Unchecked;
+    bool LogOnOpen = false;
 
     MailPerson ShowReminder(const MailPerson& recipient) override {
         Seen.push_back("show " + recipient.Name + " " + recipient.Address);
@@ -39,7 +40,9 @@ struct NotedWindows : MailWindows {
         Seen.emplace_back("ask");
         return Answer();
     }
+    [[nodiscard]] bool IsLogOnOpen() const override { return LogOnOpen; }
     void OfferLogOn(const LogOnOffer& offer) override {
+        LogOnOpen = true;
         Offers.push_back(offer);
         Seen.emplace_back("offer");
     }
@@ -149,11 +152,45 @@ TEST_F(MailServiceTest, AReminderWithoutAnAccountOffersTheDialogAndStaysDue) {
     EXPECT_EQ(Remind(), MailStatus::TryLater);
     EXPECT_EQ(Remind(), MailStatus::TryLater);
     EXPECT_FALSE(Mail.MailFailed());
-    EXPECT_THAT(Windows.Seen, ElementsAre("offer", "offer"));
+    EXPECT_THAT(Windows.Seen, ElementsAre("offer"));
     EXPECT_TRUE(Mail.TakeAccount(kAccount, "secret"));
     EXPECT_EQ(Remind(), MailStatus::Sent);
+}
+
+TEST_F(MailServiceTest, CancellingTheOfferedDialogEndsTheRemindersAndTheUserIsToldOnce) {
+    (void)Files.Remove("/home/me/Mail.dat");
+    EXPECT_EQ(Remind(), MailStatus::TryLater);
+    Mail.LogOnCancelled();
     Mail.LogOnCancelled();
     EXPECT_TRUE(Mail.MailFailed());
+    EXPECT_THAT(Told, ElementsAre("Reminders by mail wait until Kestrova is started again."));
+}
+
+TEST_F(MailServiceTest, AKeyringThatIsNotOpenedIsNotAskedEveryMinute) {
+    Keyring.There = false;
+    for (int minute = 0; minute < 3; ++minute) {
+        EXPECT_EQ(Remind(), MailStatus::TryLater);
+        Windows.LogOnOpen = false;
+    }
+    EXPECT_EQ(Keyring.Reads, 1);
+    EXPECT_EQ(Windows.Offers.size(), 3U);
+    // One that has not answered yet may have done so when it is needed again.
+    MailService mail({Transport, Keyring, Accounts, Loop, Windows, Texts, [](const auto&) {}});
+    Keyring.Trouble = ErrorCode::Busy;
+    EXPECT_EQ(mail.SendMail({}), MailStatus::TryLater);
+    Keyring.There = true;
+    DiaryEvent event;
+    event.Extra[2] = "joe@example.com";
+    EXPECT_EQ(mail.SendMail(event), MailStatus::Sent);
+}
+
+TEST_F(MailServiceTest, AnInvitationInTheMidstOfAReminderDoesNotMakeItFail) {
+    Loop.WhileWaiting = [this] {
+        EXPECT_EQ(Mail.SendInvitation("Jane", {"a@example.com"}), MailStatus::TryLater);
+        EXPECT_THAT(Mail.Complaint(), HasSubstr("on its way"));
+    };
+    EXPECT_EQ(Remind(), MailStatus::Sent);
+    EXPECT_THAT(Told, IsEmpty());
 }
 
 TEST_F(MailServiceTest, APasswordThatNoKeyringTakesServesForThisRun) {

@@ -297,6 +297,28 @@ TEST(VoiceCallTest, ACallThatIsCutShortEndsAtOnce) {
     }
 }
 
+// What was opened meanwhile handles the events, the ticks among them, in the call's place.
+TEST(VoiceCallTest, ACallThatIsHeldUpGivesTheLineBack) {
+    CallScene scene;
+    scene.Find(kScript);
+    scene.Answers["ATD5"] = "";
+    scene.OnCommand = [&](const std::string& sent) {
+        if (sent == "ATD5") {
+            scene.Loop.WhileWaiting = [&] {
+                const auto now = std::chrono::steady_clock::now();
+                scene.Caller.Tick(now + std::chrono::seconds(20));
+                EXPECT_TRUE(scene.Port.IsOpen());
+                scene.Caller.Tick(now + std::chrono::seconds(27));
+                EXPECT_FALSE(scene.Port.IsOpen());
+                EXPECT_EQ(scene.Port.Sent.back(), "ATH0");
+            };
+        }
+    };
+    EXPECT_FALSE(scene.Caller.SendMessage("ATD5", "x"));
+    EXPECT_FALSE(scene.Caller.IsBusy());
+    scene.Caller.Tick(std::chrono::steady_clock::now() + std::chrono::hours(1)); // nothing is due
+}
+
 TEST(VoiceCallTest, NoSecondCallAndNoSearchWhileOneRuns) {
     CallScene scene;
     scene.Find(kScript);

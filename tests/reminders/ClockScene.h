@@ -17,6 +17,7 @@ struct RecordingSpeaker : Speaker {
     bool Loaded = false;
     bool Visible = false;
     bool Stop = false;
+    int Clicked = 0;
     std::vector<std::string> Spoken;
     std::vector<std::string> Told;
 
@@ -37,6 +38,10 @@ struct RecordingSpeaker : Speaker {
     void TellTime(const std::string& text, AfterSpeaking /*after*/) override {
         Told.push_back(text);
     }
+    int Clicks() const override { return Clicked; }
+    void BeginCall() override {}
+    void EndCall() override {}
+    void TalkInCall(const std::string& text, AfterSpeaking after) override { Talk(text, after); }
 };
 
 struct RecordingCaller : PhoneCaller {
@@ -48,6 +53,8 @@ struct RecordingCaller : PhoneCaller {
 
     bool ModemPresent() override { return true; }
     ModemState Modem() const override { return State; }
+    bool Stopped = false;
+    bool WasStopped() const override { return Stopped; }
     bool SendMessage(const std::string& dial, const std::string& message) override {
         Calls.push_back(dial + " " + message);
         if (DuringCall) {

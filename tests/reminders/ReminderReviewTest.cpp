@@ -84,7 +84,7 @@ TEST(ReminderReviewTest, ASpokenReminderIsAcknowledgedByAClick) {
     EXPECT_FALSE(scene.Speech.Visible);
     EXPECT_EQ(scene.ReminderOnFile(), "Speak") << "nobody has clicked";
 
-    scene.Loop.WhileWaiting = [&] { scene.Speech.Stop = true; };
+    scene.Loop.WhileWaiting = [&] { ++scene.Speech.Clicked; };
     scene.PassAt(9, 6);
     scene.PassAt(9, 7);
     EXPECT_EQ(scene.Speech.Spoken.size(), 4U) << "not yet again";
@@ -117,6 +117,22 @@ TEST(ReminderReviewTest, CallsGoThroughTheNumbersUntilOneAnswers) {
     EXPECT_THAT(scene.Phone.Calls, ElementsAre("ATD111; Milk", "ATD222; Milk"));
     EXPECT_EQ(scene.Phone.Delays, 1);
     EXPECT_EQ(scene.ReminderOnFile(), "None");
+}
+
+TEST(ReminderReviewTest, AStoppedCallTriesNoOtherNumberAndAnEndingProgramNoOtherReminder) {
+    ClockScene scene;
+    scene.Add(9, 0, "Milk", "Phone", {"", "111", "222", "333"});
+    scene.Phone.Stopped = true;
+    scene.PassAt(9, 0);
+    EXPECT_THAT(scene.Phone.Calls, testing::SizeIs(1));
+    EXPECT_EQ(scene.Phone.Delays, 0);
+
+    ClockScene ending;
+    ending.Add(9, 0, "Milk", "Phone", {"", "111", "", ""});
+    ending.Add(9, 1, "Song", "Music");
+    ending.Phone.DuringCall = [&] { ending.Review.End(); };
+    ending.PassAt(9, 1);
+    EXPECT_EQ(ending.ReminderOnFile(2), "Music");
 }
 
 TEST(ReminderReviewTest, MissedCallsAreRepeatedAfterTheirPeriod) {

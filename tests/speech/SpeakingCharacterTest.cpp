@@ -190,6 +190,79 @@ TEST_F(SpeakingCharacterTest, ATextThatComesOutOfAnEventIsTalkedAfterTheOneUnder
     EXPECT_FALSE(Stage.Visible);
 }
 
+// Chimes, reminders and others that hide the character when they have spoken.
+TEST_F(SpeakingCharacterTest, ATextGoesOnToBeTalkedByACharacterThatIsSeen) {
+    ASSERT_TRUE(Character.LoadMerlin());
+    bool chimed = false;
+    Loop.WhileWaiting = [&] {
+        EXPECT_TRUE(Stage.Visible);
+        if (!std::exchange(chimed, true)) {
+            Character.TellTime("It is four.", AfterSpeaking::Hide);
+            Stage.PassTime();
+        }
+        Stage.PassTime();
+    };
+    Character.Talk("One. Two. Three.", AfterSpeaking::Stay);
+    EXPECT_EQ(Stage.Words(), (Texts{"One. ", "It is four.", "Two. ", "Three."}));
+    EXPECT_TRUE(Stage.Visible);
+}
+
+TEST_F(SpeakingCharacterTest, AClickEndsATextAlthoughAReminderTakesItForItsOwn) {
+    ASSERT_TRUE(Character.LoadMerlin());
+    Loop.WhileWaiting = [this] {
+        Character.SetStopSpeaking(false);
+        const int before = Character.Clicks();
+        Stage.On.Clicked();
+        EXPECT_EQ(Character.Clicks(), before + 1);
+        // Another text that is talked meanwhile sets the flag back, but not the count.
+        Loop.WhileWaiting = [this] { Stage.PassTime(); };
+        Character.Talk("Between.", AfterSpeaking::Hide);
+        EXPECT_FALSE(Character.StopSpeaking());
+        EXPECT_EQ(Character.Clicks(), before + 1);
+    };
+    Character.Talk("One. Two.", AfterSpeaking::Stay);
+    EXPECT_EQ(Stage.Words(), (Texts{"One. ", "Between."}));
+    Stage.On.Clicked(); // now it tells the time
+    EXPECT_EQ(Character.Clicks(), 1);
+    EXPECT_TRUE(Stage.Visible);
+}
+
+TEST_F(SpeakingCharacterTest, AnotherCharacterDoesNotGoOnWithTheTextOfTheOneBefore) {
+    ASSERT_TRUE(Character.LoadMerlin());
+    Loop.WhileWaiting = [this] {
+        EXPECT_TRUE(Character.LoadMerlin());
+        EXPECT_FALSE(Character.IsSpeaking());
+        Loop.WhileWaiting = [this] { Stage.PassTime(); };
+    };
+    Character.Talk("One. Two.", AfterSpeaking::Stay);
+    EXPECT_EQ(Stage.Words(), Texts{"One. "});
+    EXPECT_FALSE(Stage.Visible);
+}
+
+TEST_F(SpeakingCharacterTest, DuringACallOnlyTheCallIsTalked) {
+    ASSERT_TRUE(Character.LoadMerlin());
+    Loop.WhileWaiting = [this] {
+        Loop.WhileWaiting = [this] {
+            while (Stage.Saying) {
+                Stage.PassTime();
+            }
+        };
+        const KeptForCall kept(Character); // out of an event, while a long text is talked
+        Character.Talk("The clipboard.", AfterSpeaking::Hide);
+        Character.TellTime("It is four.", AfterSpeaking::Hide);
+        Character.TalkInCall("Press one. Now.", AfterSpeaking::Stay);
+        EXPECT_FALSE(Character.IsSpeaking()) << "the call waits for that";
+        EXPECT_TRUE(Stage.Visible);
+        Character.Speak("Reminder."); // is never lost
+        Stage.PassTime();
+    };
+    Character.Talk("One. Two.", AfterSpeaking::Hide);
+    EXPECT_EQ(Stage.Words(), (Texts{"One. ", "Press one. ", "Now.", "Reminder."}));
+    EXPECT_FALSE(Stage.Visible);
+    Character.Talk("After.", AfterSpeaking::Hide);
+    EXPECT_EQ(Stage.Words().back(), "After.");
+}
+
 TEST_F(SpeakingCharacterTest, TalkEndsWithTheProgramAndWithTheCharacter) {
     ASSERT_TRUE(Character.LoadMerlin());
     Loop.WhileWaiting = {};
@@ -265,6 +338,25 @@ TEST_F(SpeakingCharacterTest, WordsAreOverWhenTheirSoundIs) {
     EXPECT_DOUBLE_EQ(Stage.Limit, 0.5);
     Stage.PassTime();
     EXPECT_FALSE(Character.IsSpeaking());
+}
+
+TEST_F(SpeakingCharacterTest, AVoiceIsNotGivenABookAtATime) {
+    ASSERT_TRUE(Character.LoadMerlin());
+    std::string book;
+    for (int i = 0; i < 1000; ++i) {
+        book += "quite long words ";
+    }
+    Character.Speak(book);
+    EXPECT_LE(Voice.Said.back().size(), 600U);
+    while (Character.IsSpeaking()) {
+        Stage.PassTime();
+    }
+    Loop.WhileWaiting = [this] {
+        Stage.PassTime();
+        Character.SetStopSpeaking(Stage.Said.size() > 40);
+    };
+    Character.Talk(book, AfterSpeaking::Hide);
+    EXPECT_EQ(Stage.Said.size(), 41U) << "it can be stopped in between";
 }
 
 TEST_F(SpeakingCharacterTest, WithoutAVoiceTheWordsAreShownForAsLongAsReadingTakes) {

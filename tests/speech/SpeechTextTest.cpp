@@ -57,6 +57,18 @@ TEST(SpeechTextTest, ALongPieceEndsBeforeAShortWord) {
     EXPECT_EQ(CutSpeech(long61 + "ends"), (Pieces{long61 + "ends"}));
 }
 
+TEST(SpeechTextTest, WhatIsTooLongForAVoiceIsCutBehindABlank) {
+    const std::string word = "Σίγουρα "; // 8 characters, 15 bytes
+    const Pieces book{"Short.", Repeated(word, 200)};
+    EXPECT_EQ(CutLongPieces(book),
+              (Pieces{"Short.", Repeated(word, 75), Repeated(word, 75), Repeated(word, 50)}));
+    const std::string solid(1300, 'a');
+    EXPECT_EQ(CutLongPieces({solid + " b"}),
+              (Pieces{solid.substr(0, 600), solid.substr(0, 600), solid.substr(1200) + " b"}));
+    EXPECT_EQ(CutLongPieces({solid.substr(0, 599) + "é"}).size(), 1U);
+    EXPECT_EQ(CutLongPieces({}), Pieces());
+}
+
 TEST(SpeechTextTest, LongWordsWithoutAStopSignAreOnePiece) {
     const std::string text = Repeated("somewhere ", 20).substr(0, 199) + "e";
     ASSERT_EQ(text.size(), 200U);

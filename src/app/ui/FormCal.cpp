@@ -9,14 +9,12 @@
 #include "language/ui/ApplyCaptions.h"
 #include "platform/qt/QtText.h"
 #include "settings/ListChoices.h"
-#include "text/Numbers.h"
 #include "ui/Look.h"
 #include "ui/Names.h"
 #include "ui/PlainTip.h"
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -254,14 +252,21 @@ void FormCal::AfterMove(bool otherMonth) {
         hooks_.SetReturnCountdown(0); // the user is looking for something
         GetPicture();
         Redraw(kSameMonth);
+        voice_.SayPictureSoon();
     } else {
         MarkDates();
     }
 }
 
-void FormCal::SelectDay(int day) {
+void FormCal::LabDates_Click(int day) {
     rooms_.Dates.PageDay = day;
     MarkDates();
+    voice_.SayDaySoon(day);
+}
+
+void FormCal::LabDates_DblClick(int day) {
+    voice_.SayNothing();
+    hooks_.OpenDiary(day);
 }
 
 void FormCal::DoMNUDays(int month) {
@@ -286,19 +291,12 @@ void FormCal::LabCurMth_DblClick() {
         hooks_.SetReturnCountdown(0);
         GetPicture();
         Redraw(rooms_.Dates.TodayMonth);
+        voice_.SayPictureSoon();
     }
 }
 
 void FormCal::LabCurMth_Click() {
-    if (ChimeTypeOf(rooms_.Settings, rooms_.Texts) != ChimeType::Speech) {
-        return;
-    }
-    const WallTime now = rooms_.Time.Now();
-    const std::string time = TwoDigits(now.Hour) + ":" + TwoDigits(now.Minute);
-    rooms_.Speech.TellTime(rooms_.Settings.Greeting + ". " + time + ". On. " +
-                               std::to_string(rooms_.Dates.TodayDay) + ". " +
-                               FromQt(LabCurMth->text()) + ". " + rooms_.Settings.Farewell,
-                           AfterSpeaking::Hide);
+    voice_.SayTime(FromQt(LabCurMth->text()));
 }
 
 void FormCal::LabHelp_Click() {
@@ -309,18 +307,12 @@ void FormCal::LabHelp_Click() {
     }
 }
 
-void FormCal::LabDays_Click() {
-    const QString text = QApplication::clipboard()->text();
-    if (rooms_.Settings.SpeakWeekDay != 0 && !text.isEmpty()) {
-        rooms_.Speech.Talk(FromQt(text), AfterSpeaking::Hide);
-    }
-}
-
 void FormCal::MNU_Mon_Click(int month) {
     ShowMonth(rooms_.Dates, month);
     GetPicture();
     Redraw(month);
     hooks_.SetReturnCountdown(kMinutesUntilReturn);
+    voice_.SayPictureSoon();
 }
 
 void FormCal::MNU_WeekSt_Click(int index) {

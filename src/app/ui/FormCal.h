@@ -3,6 +3,7 @@
 
 #include "app/ui/DateLabel.h"
 #include "app/ui/GameMenu.h"
+#include "app/ui/MonthVoice.h"
 #include "calendar/Selection.h"
 #include "diary/DiaryStore.h"
 #include "language/Languages.h"
@@ -48,6 +49,7 @@ public:
         Shell& Desktop;
         const Clock& Time;
         PieceFiles& Pieces;
+        const FileStore& Files;
     };
 
     // What the window asks of the program around it.
@@ -123,7 +125,8 @@ private:
     void FitToWindow();
     void DoMNUDays(int month);
     void AfterMove(bool otherMonth);
-    void SelectDay(int day);
+    void LabDates_Click(int day);
+    void LabDates_DblClick(int day);
     void ViewChanged();
     [[nodiscard]] bool IsHalf() const;
 
@@ -132,7 +135,6 @@ private:
     void LabCurMth_DblClick();
     void LabCurMth_Click();
     void LabHelp_Click();
-    void LabDays_Click();
     void MNU_Mon_Click(int month);
     void MNU_WeekSt_Click(int index);
     void MNU_Lan_Click(int index);
@@ -149,6 +151,7 @@ private:
 
     Rooms rooms_;
     Hooks hooks_;
+    MonthVoice voice_;
     bool windowReady_ = false; // WindowReady
     bool firstDraw_ = true;
 

@@ -74,7 +74,10 @@ private:
 
 } // namespace
 
-FormCal::FormCal(const Rooms& rooms, Hooks hooks) : rooms_(rooms), hooks_(std::move(hooks)) {
+FormCal::FormCal(const Rooms& rooms, Hooks hooks)
+    : rooms_(rooms), hooks_(std::move(hooks)),
+      voice_({rooms.Dates, rooms.Texts, rooms.Settings, rooms.Store, rooms.Pictures, rooms.Files,
+              rooms.Time, rooms.Speech}) {
     setObjectName(QStringLiteral("FormCal"));
     setMinimumSize(kSmallestSize);
     resize(kFirstSize);
@@ -140,7 +143,7 @@ void FormCal::BuildGrid() {
         auto* const label = new ClickLabel(card_);
         label->setObjectName(ArrayName("LabDays", i));
         label->setAlignment(Qt::AlignCenter);
-        label->Clicked = [this] { LabDays_Click(); };
+        label->Clicked = [this] { voice_.SayClipboard(); };
         LabDays[static_cast<std::size_t>(i)] = label;
         grid_->addWidget(label, 0, i);
         grid_->setColumnStretch(i, 1);
@@ -153,8 +156,8 @@ void FormCal::BuildGrid() {
         auto* const label = new DateLabel(card_);
         label->setObjectName(ArrayName("LabDates", i));
         label->setText(QString::number(i + 1));
-        label->Clicked = [this, i] { SelectDay(i + 1); };
-        label->DoubleClicked = [this, i] { hooks_.OpenDiary(i + 1); };
+        label->Clicked = [this, i] { LabDates_Click(i + 1); };
+        label->DoubleClicked = [this, i] { LabDates_DblClick(i + 1); };
         label->hide();
         LabDates[static_cast<std::size_t>(i)] = label;
     }

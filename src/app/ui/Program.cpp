@@ -31,7 +31,7 @@ Program::Program(Orders orders, InstanceLink& link)
               [this]() -> CallScreen& { return ModemWindow(); }}),
       mailModule_(MailModule::ShippedPath()),
       mail_({mailModule_, mailModule_, files_, clock_, loop_, dialogs_, texts_},
-            dataFolder_ + "Mail.dat"),
+            dataFolder_ + "Mail.dat", [this](const std::string& text) { Tell(text); }),
       mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
       voices_(SpeechModule::ShippedPath()), stage_(voices_), texts_(MsgDefaults()),
       settings_(FirstSettings(texts_)),
@@ -53,7 +53,7 @@ Program::Program(Orders orders, InstanceLink& link)
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
-                media_, dialogs_, shell_, clock_, pieces_},
+                media_, dialogs_, shell_, clock_, pieces_, files_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
                 [this] { KeepMenuChoices(); }, [this] { KeepVideoChoices(); },
                 [this] { ShowVideoChoices(); }, [this](int index) { ChangeLanguage(index); },
@@ -64,7 +64,10 @@ Program::Program(Orders orders, InstanceLink& link)
                 [this] { End(); }}) {
     stage_.SetNeighbour(&formCal_);
     Timer1.setInterval(kTickMilliseconds);
-    QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] { tick_.Timer1_Timer(); });
+    QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] {
+        tick_.Timer1_Timer();
+        phone_.Tick(std::chrono::steady_clock::now());
+    });
     FillStartUp();
 }
 
@@ -90,6 +93,7 @@ int Program::Run(FirstShow show) {
 // wait for an answer to a message are left with it, also those before the main one has begun.
 void Program::End() {
     ended_ = true;
+    review_.End();
     phone_.End(); // a call hangs up
     if (diary_) {
         // What the user has typed into a note is theirs, like any note that has been left.
@@ -128,7 +132,6 @@ void Program::FillFirstSteps() {
     startUp_.Fill(StartUpStep::ApplySettings, [this] { formCal_.ApplySettings(); });
     // The entry only serves a later "Start on Boot Up", which tells when it cannot be written.
     startUp_.Fill(StartUpStep::GetShortCut, [this] { (void)shortCut_.GetShortCut(settings_); });
-    startUp_.Fill(StartUpStep::ModemCheck, [this] { ModemCheck(); });
 }
 
 void Program::FillDiarySteps() {
@@ -191,7 +194,8 @@ void Program::GetPaths() {
 }
 
 void Program::ModemCheck() {
-    // The probe waits for the modem's answers; no tick is to come in between.
+    // The probe waits for the modem's answers, for which the window does not; no tick is to come in
+    // between.
     Timer1.stop();
     if (HasModemPort(settings_) && !phone_.ModemPresent()) {
         settings_.ModemPort = texts_.Text(texts::kModemPorts);
@@ -313,6 +317,10 @@ void Program::FirstDrawn() {
     tick_.SetFirstDraw(false);
     // The window is to be seen before a delivery makes the pass wait.
     QTimer::singleShot(0, &formCal_, [this] {
+        ModemCheck();
+        if (ended_) {
+            return;
+        }
         if (!mediaFile_.empty()) {
             media_.PlayReminder(mediaFile_);
         }
@@ -323,9 +331,7 @@ void Program::FirstDrawn() {
 // Whoever has something to tell may be in the middle of a pass with more to deliver, which must not
 // wait for the user.
 void Program::Tell(const std::string& text) {
-    QTimer::singleShot(0, &formCal_, [this, text] {
-        dialogs_.Show({texts_.Text(texts::kMessengerTitle), text, DialogIcon::Critical});
-    });
+    notice_.Tell(ToQt(texts_.Text(texts::kMessengerTitle)), ToQt(text));
 }
 
 void Program::OpenDiary(int day) {
@@ -407,11 +413,11 @@ bool Program::MailWorks() const {
     return !mail_.Reminders().MailFailed();
 }
 
-bool Program::AskPhoneNumbers(ReminderExtra& extra) {
+DetailsAnswer Program::AskPhoneNumbers(ReminderExtra& extra) {
     return ModemWindow().AskPhoneNumbers(extra);
 }
 
-bool Program::AskMailAddress(ReminderExtra& extra) {
+DetailsAnswer Program::AskMailAddress(ReminderExtra& extra) {
     return mail_.AskMailAddress(extra);
 }
 

@@ -30,6 +30,7 @@
 #include "settings/ui/Settings.h"
 #include "speech/SpeakingCharacter.h"
 #include "speech/ui/DesktopStage.h"
+#include "ui/Notice.h"
 
 #include <QTimer>
 
@@ -128,14 +129,14 @@ private:
     }
     void Talk(const std::string& text) override { speech_.Talk(text, AfterSpeaking::Hide); }
     void PortChosen() override { phone_.PortChosen(); }
-    std::optional<std::string> FindModem() override;
+    Result<std::string> FindModem() override;
     void MakeSound(const std::string& path) override { media_.MakeSound(path); }
     void ChangeYear() override;
     void FormatData() override;
     bool SaveSettings() override;
 
-    bool AskPhoneNumbers(ReminderExtra& extra) override;
-    bool AskMailAddress(ReminderExtra& extra) override;
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& extra) override;
+    DetailsAnswer AskMailAddress(ReminderExtra& extra) override;
     void Preview(const std::string& path) override { media_.MakeSound(path); }
 
     bool ended_ = false;
@@ -146,6 +147,7 @@ private:
     PosixFileStore files_;
     SystemClock clock_;
     QtDialogs dialogs_;
+    Notice notice_;
     QtEventLoop loop_;
     QtBeeper beeper_;
     QtShell shell_;

@@ -72,11 +72,14 @@ void Program::DateOrderChanged() {
     formCal_.Redraw(FormCal::kSameMonth);
 }
 
-std::optional<std::string> Program::FindModem() {
+Result<std::string> Program::FindModem() {
     Timer1.stop(); // the probe waits for the modem's answers; no tick is to come in between
     const bool found = phone_.ModemPresent();
     Timer1.start();
-    return found ? std::optional(settings_.ModemDescription) : std::nullopt;
+    if (!found) {
+        return Error{ErrorCode::NotFound, phone_.PortTrouble()};
+    }
+    return settings_.ModemDescription;
 }
 
 void Program::ChangeYear() {
@@ -128,8 +131,8 @@ bool Program::SaveSettings() {
         kept_ = settings_;
     }
     ShowTodayMonth();
+    speech_.AgentTer();
     if (settings_.SpeechEnabled != 0) {
-        speech_.AgentTer();
         speech_.AgentIni();
         speech_.LoadMerlin();
     }

@@ -114,7 +114,7 @@ void Email::LoadCaptions() {
     }
 }
 
-void Email::Open(Use use) {
+void Email::Open(Use use, Keyboard keyboard) {
     use_ = use;
     accepted_ = false;
     const bool invites = use == Use::Invitation;
@@ -133,12 +133,12 @@ void Email::Open(Use use) {
     ComCancel->setVisible(asks);
     ComSend->setDefault(invites);
     ComSave->setDefault(use == Use::Details);
-    setAttribute(Qt::WA_ShowWithoutActivating, !asks);
+    setAttribute(Qt::WA_ShowWithoutActivating, keyboard == Keyboard::Leave);
     resize(1, 1); // the last use may have made it larger
     area_->FitWindow();
     show();
     raise();
-    if (asks) {
+    if (keyboard == Keyboard::Take) {
         activateWindow();
         TextName->setFocus();
     }
@@ -149,24 +149,56 @@ void Email::Leave() {
     hide();
 }
 
-bool Email::AskDetails(ReminderExtra& RmdExtra) {
-    if (use_ == Use::Details || sending_) {
-        return false; // the user is there already
+std::optional<Email::Typed> Email::TypedInvitation() const {
+    if (use_ != Use::Invitation) {
+        return std::nullopt;
     }
+    Typed typed{TextName->text(), {}};
+    std::transform(TextMail.begin(), TextMail.end(), typed.Addresses.begin(),
+                   [](const QLineEdit* box) { return box->text(); });
+    return typed;
+}
+
+void Email::PutBack(const Typed& invitation) {
+    TextName->setText(invitation.Name);
+    for (std::size_t i = 0; i < kInvitedFriends; ++i) {
+        TextMail[i]->setText(invitation.Addresses[i]);
+    }
+    mailWindowMode_ = MailWindowMode::Unchecked;
+    Open(Use::Invitation, Keyboard::Leave); // the user is at the diary
+}
+
+DetailsAnswer Email::AskDetails(ReminderExtra& RmdExtra) {
+    if (use_ == Use::Details) {
+        raise(); // the user is there already
+        activateWindow();
+        return DetailsAnswer::NotNow;
+    }
+    if (sending_) {
+        boxes_.Show({texts_.Text(texts::kMessengerTitle), TextOf(texts_, ProgramText::MailBusy),
+                     DialogIcon::Critical});
+        return DetailsAnswer::NotNow;
+    }
+    const auto invitation = TypedInvitation();
     hide(); // a window that is shown does not become one that the others wait for
     rmdExtra_ = RmdExtra;
     TextName->setText(ToQt(RmdExtra[kName]));
     TextMail[0]->setText(ToQt(RmdExtra[kAddress]));
     mailWindowMode_ = MailWindowMode::Details;
     setWindowModality(Qt::ApplicationModal);
-    Open(Use::Details);
+    Open(Use::Details, Keyboard::Take);
     WaitUntilClosed(*this);
-    Leave(); // also when the program ends
+    const bool programEnds = isVisible();
+    const bool accepted = accepted_;
+    Leave();
     setWindowModality(Qt::NonModal);
-    if (accepted_) {
+    if (accepted) {
         RmdExtra = rmdExtra_;
     }
-    return accepted_;
+    if (invitation && !programEnds) {
+        PutBack(*invitation);
+    }
+    return accepted ? DetailsAnswer::Given : DetailsAnswer::SwitchedOff;
 }
 
 void Email::OpenInvitation(const std::string& name) {
@@ -181,7 +213,7 @@ void Email::OpenInvitation(const std::string& name) {
     }
     mailWindowMode_ = MailWindowMode::Unchecked; // who does not want to invite anybody just closes
     hide();
-    Open(Use::Invitation);
+    Open(Use::Invitation, Keyboard::Take);
 }
 
 MailPerson Email::ShowReminder(const MailPerson& recipient) {
@@ -191,7 +223,7 @@ MailPerson Email::ShowReminder(const MailPerson& recipient) {
     TextName->setText(ToQt(recipient.Name));
     TextMail[0]->setText(ToQt(recipient.Address));
     mailWindowMode_ = MailWindowMode::Unchecked;
-    Open(Use::Reminder);
+    Open(Use::Reminder, Keyboard::Leave);
     return {FromQt(TextName->text()), FromQt(TextMail[0]->text())};
 }
 

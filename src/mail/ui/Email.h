@@ -14,6 +14,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 namespace kestrova {
 
@@ -33,9 +34,10 @@ public:
 
     Email(const StringTable& texts, Dialogs& boxes, Hooks hooks);
 
-    // Lets the user give name and address, and returns when the window has been closed. False when
-    // the user has cancelled; the details are then as they were.
-    bool AskDetails(ReminderExtra& RmdExtra);
+    // Lets the user give name and address, and returns when the window has been closed. Unless they
+    // are given, the details are as they were. An invitation that is being typed comes back
+    // afterwards; while one is being sent, the user is asked to wait.
+    DetailsAnswer AskDetails(ReminderExtra& RmdExtra);
 
     // Opens the window for an invitation. Returns at once.
     void OpenInvitation(const std::string& name);
@@ -58,10 +60,17 @@ protected:
 
 private:
     enum class Use { None, Details, Invitation, Reminder };
+    enum class Keyboard { Take, Leave };
+    struct Typed {
+        QString Name;
+        std::array<QString, kInvitedFriends> Addresses;
+    };
 
     void Build();
-    void Open(Use use);
+    void Open(Use use, Keyboard keyboard);
     void Leave();
+    [[nodiscard]] std::optional<Typed> TypedInvitation() const;
+    void PutBack(const Typed& invitation);
     [[nodiscard]] bool Form_QueryUnload();
     [[nodiscard]] bool IsGoodAddress(int index);
     [[nodiscard]] QString Words(ProgramText text) const;

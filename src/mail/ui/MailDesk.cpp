@@ -7,15 +7,13 @@
 #include "mail/ui/MailLogOn.h"
 #include "platform/qt/QtText.h"
 
-#include <QMessageBox>
-
 namespace kestrova {
 
 MailDesk::MailDesk(const Rooms& rooms, std::string accountPath,
                    std::function<void(const std::string& text)> tell)
     : rooms_(rooms), accounts_(rooms.Files, rooms.Time, std::move(accountPath)),
       service_({rooms.Transport, rooms.Passwords, accounts_, rooms.Loop, *this, rooms.Texts,
-                tell ? std::move(tell) : [this](const std::string& text) { ShowNotice(text); }}) {}
+                std::move(tell)}) {}
 
 MailDesk::~MailDesk() = default;
 
@@ -52,15 +50,13 @@ void MailDesk::LoadCaptions() {
     }
 }
 
-bool MailDesk::AskMailAddress(ReminderExtra& extra) {
-    if (!MailWindow().AskDetails(extra)) {
-        return false;
-    }
-    if (!service_.HasAccount()) {
+DetailsAnswer MailDesk::AskMailAddress(ReminderExtra& extra) {
+    const DetailsAnswer answer = MailWindow().AskDetails(extra);
+    if (answer == DetailsAnswer::Given && !service_.HasAccount()) {
         // Now somebody is there who knows it. Who does not care yet is asked again in time.
         (void)AskLogOn(service_.Offer());
     }
-    return true;
+    return answer;
 }
 
 void MailDesk::TellAFriend() {
@@ -85,20 +81,6 @@ bool MailDesk::SendInvitation(const std::string& name, const InvitedFriends& fri
 
 // A reminder's trouble is shown in a box of its own: a clock pass that waited for an answer would
 // give no other reminder.
-void MailDesk::ShowNotice(const std::string& text) {
-    notice_ = std::make_unique<QMessageBox>();
-    notice_->setObjectName(QStringLiteral("MailNotice"));
-    notice_->setWindowTitle(ToQt(rooms_.Texts.Text(texts::kMessengerTitle)));
-    notice_->setTextFormat(Qt::PlainText); // a server's words are no markup
-    notice_->setText(ToQt(text));
-    notice_->setIcon(QMessageBox::Critical);
-    notice_->setWindowFlag(Qt::WindowStaysOnTopHint);
-    notice_->setAttribute(Qt::WA_ShowWithoutActivating);
-    notice_->setAttribute(Qt::WA_QuitOnClose, false);
-    notice_->setWindowModality(Qt::NonModal);
-    notice_->show();
-}
-
 MailPerson MailDesk::ShowReminder(const MailPerson& recipient) {
     return MailWindow().ShowReminder(recipient);
 }
@@ -121,6 +103,10 @@ void MailDesk::SetMailWindowMode(MailWindowMode mode) {
 
 bool MailDesk::AskLogOn(const LogOnOffer& offer) {
     return LogOnWindow().Ask(offer);
+}
+
+bool MailDesk::IsLogOnOpen() const {
+    return logOn_ && logOn_->isVisible();
 }
 
 void MailDesk::OfferLogOn(const LogOnOffer& offer) {

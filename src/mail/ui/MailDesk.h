@@ -9,8 +9,6 @@
 #include <memory>
 #include <string>
 
-class QMessageBox;
-
 namespace kestrova {
 
 class Email;
@@ -30,17 +28,17 @@ public:
         const StringTable& Texts;
     };
 
-    // `tell` is given what has failed, in a sentence; empty stands for a box that nobody waits for.
+    // `tell` is given what has failed, in a sentence, and must not wait for the user.
     MailDesk(const Rooms& rooms, std::string accountPath,
-             std::function<void(const std::string& text)> tell = {});
+             std::function<void(const std::string& text)> tell);
     ~MailDesk() override;
 
     [[nodiscard]] ReminderMail& Reminders() { return service_; }
     [[nodiscard]] const ReminderMail& Reminders() const { return service_; }
 
     // Lets the user give the name and address of a mail reminder and, where there is no account
-    // yet, the account; returns when the windows are closed. False when the user has cancelled.
-    bool AskMailAddress(ReminderExtra& extra);
+    // yet, the account; returns when the windows are closed.
+    DetailsAnswer AskMailAddress(ReminderExtra& extra);
 
     // Opens the invitation to friends.
     void TellAFriend();
@@ -57,19 +55,18 @@ private:
     void ShowSent(std::size_t friendNumber) override;
     void SetMailWindowMode(MailWindowMode mode) override;
     bool AskLogOn(const LogOnOffer& offer) override;
+    [[nodiscard]] bool IsLogOnOpen() const override;
     void OfferLogOn(const LogOnOffer& offer) override;
 
     Email& MailWindow();
     MailLogOn& LogOnWindow();
     bool SendInvitation(const std::string& name, const InvitedFriends& friends);
-    void ShowNotice(const std::string& text);
 
     Rooms rooms_;
     MailAccountStore accounts_;
     MailService service_;
     std::unique_ptr<Email> email_;
     std::unique_ptr<MailLogOn> logOn_;
-    std::unique_ptr<QMessageBox> notice_;
 };
 
 } // namespace kestrova

@@ -42,14 +42,22 @@ void Modem::LoadCaptions() {
     TextRpt->setAccessibleName(LabRpt->text() + QLatin1Char(' ') + LabMins->text());
 }
 
-bool Modem::AskPhoneNumbers(std::array<std::string, 4>& extra) {
+DetailsAnswer Modem::AskPhoneNumbers(ReminderExtra& extra) {
     if (asking_) {
-        return false;
+        return DetailsAnswer::NotNow;
+    }
+    const bool own = std::any_of(extra.begin(), extra.end(),
+                                 [](const std::string& number) { return !number.empty(); });
+    if (rooms_.Caller.IsBusy()) {
+        // The call could not end while its own window is waited for.
+        if (!own) {
+            rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
+                               TextOf(rooms_.Texts, ProgramText::CallUnderWay), DialogIcon::None});
+        }
+        return own ? DetailsAnswer::Given : DetailsAnswer::NotNow;
     }
     const QScopedValueRollback<bool> guard(asking_, true);
     extra_ = extra;
-    const bool own = std::any_of(extra.begin(), extra.end(),
-                                 [](const std::string& number) { return !number.empty(); });
     ShowNumbers(own ? extra : rooms_.Settings.StoredNumbers);
     // The event being edited stays as it is while its numbers are asked for.
     setWindowModality(Qt::ApplicationModal);
@@ -66,7 +74,8 @@ bool Modem::AskPhoneNumbers(std::array<std::string, 4>& extra) {
     hide();
     setWindowModality(Qt::NonModal);
     extra = extra_;
-    return closed && rooms_.Caller.Modem() == ModemState::On;
+    return closed && rooms_.Caller.Modem() == ModemState::On ? DetailsAnswer::Given
+                                                             : DetailsAnswer::SwitchedOff;
 }
 
 void Modem::ShowNumbers(const std::array<std::string, 4>& numbers) {

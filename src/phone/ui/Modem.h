@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "diary/ReminderDetails.h"
 #include "language/ProgramTexts.h"
 #include "phone/CallScreen.h"
 #include "phone/PhoneNumbers.h"
@@ -49,7 +50,7 @@ public:
     // Lets the user give the numbers for a reminder; returns when the window is closed. The list
     // begins with the reminder's own numbers, or, where it has none, with those given last. They
     // are left in `extra`, from 1 on. False when the user has switched telephoning off instead.
-    bool AskPhoneNumbers(std::array<std::string, 4>& extra);
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& extra);
 
     void LoadCaptions();
 

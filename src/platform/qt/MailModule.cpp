@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QLibrary>
 
+#include <utility>
+
 namespace kestrova {
 
 std::string MailModule::ShippedPath() {
@@ -42,33 +44,49 @@ std::unique_ptr<MailSession> MailModule::SignOn(const MailServer& server) {
     return transport_->SignOn(server);
 }
 
-Result<std::string> MailModule::WaitFor(std::unique_ptr<KeyringQuestion> question) {
+bool MailModule::StillAsked() const {
+    return pending_ && !pending_->Question->Answer();
+}
+
+Result<std::string> MailModule::WaitFor(Pending asked) {
     std::optional<Result<std::string>> answer;
     QtEventLoop().WaitUntil(
         [&] {
-            answer = question->Answer();
+            answer = asked.Question->Answer();
             return answer.has_value();
         },
         keyringLimit_);
     if (!answer) {
-        keyringDead_ = true;
-        return Error{ErrorCode::Failed, {}};
+        pending_ = std::move(asked);
+        return Error{ErrorCode::Busy, {}};
     }
     return *answer;
 }
 
 Result<std::string> MailModule::Read(const std::string& name) {
-    MailFactory* const factory = keyringDead_ ? nullptr : Load();
-    return factory == nullptr ? Result<std::string>(Error{ErrorCode::Failed, trouble_})
-                              : WaitFor(factory->ReadPassword(name));
-}
-
-Status MailModule::Write(const std::string& name, const std::string& password) {
-    MailFactory* const factory = keyringDead_ ? nullptr : Load();
+    MailFactory* const factory = Load();
     if (factory == nullptr) {
         return Error{ErrorCode::Failed, trouble_};
     }
-    const Result<std::string> written = WaitFor(factory->WritePassword(name, password));
+    if (StillAsked()) {
+        return Error{ErrorCode::Busy, {}};
+    }
+    if (const auto late = std::exchange(pending_, std::nullopt); late && late->Wanted == name) {
+        return *late->Question->Answer();
+    }
+    return WaitFor({factory->ReadPassword(name), name});
+}
+
+Status MailModule::Write(const std::string& name, const std::string& password) {
+    MailFactory* const factory = Load();
+    if (factory == nullptr) {
+        return Error{ErrorCode::Failed, trouble_};
+    }
+    if (StillAsked()) {
+        return Error{ErrorCode::Busy, {}};
+    }
+    pending_.reset();
+    const Result<std::string> written = WaitFor({factory->WritePassword(name, password), {}});
     return written ? Status(Done{}) : Status(written.Failure());
 }
 

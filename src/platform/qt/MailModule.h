@@ -7,12 +7,13 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace kestrova {
 
 // Mail and the keyring as the module beside the executable has them. It is loaded at the first need
-// and stays loaded. A keyring that has not answered once is not asked again in this run.
+// and stays loaded. A keyring that has not answered in time is asked nothing more until it has.
 class MailModule : public MailTransport, public PasswordStore {
 public:
     static constexpr std::chrono::milliseconds kKeyringLimit{5000};
@@ -32,8 +33,14 @@ public:
     [[nodiscard]] const std::string& Trouble() const { return trouble_; }
 
 private:
+    struct Pending {
+        std::unique_ptr<KeyringQuestion> Question;
+        std::string Wanted; // the name of the password; empty when one was to be kept
+    };
+
     MailFactory* Load();
-    Result<std::string> WaitFor(std::unique_ptr<KeyringQuestion> question);
+    [[nodiscard]] bool StillAsked() const;
+    Result<std::string> WaitFor(Pending asked);
 
     std::string path_;
     MailRules rules_;
@@ -41,7 +48,7 @@ private:
     MailFactory* factory_ = nullptr; // the module's own
     std::unique_ptr<MailTransport> transport_;
     std::string trouble_;
-    bool keyringDead_ = false;
+    std::optional<Pending> pending_; // what the keyring owes an answer
 };
 
 } // namespace kestrova

@@ -22,7 +22,7 @@ bool QtEventLoop::WaitUntil(const std::function<bool()>& predicate,
     QTimer ask;
     bool holds = false;
     QObject::connect(&ask, &QTimer::timeout, &loop, [&] {
-        holds = predicate();
+        holds = holds || predicate(); // what has held once may not hold any more before we are back
         if (holds) {
             loop.quit();
         }

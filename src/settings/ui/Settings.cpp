@@ -27,6 +27,7 @@ constexpr TextId kModemNotFound{TextGroup::Messages, 7};
 constexpr TextId kFileOpenFault{TextGroup::Messages, 9};
 constexpr TextId kFormatWarning{TextGroup::Messages, 17};
 constexpr TextId kFormatLoss{TextGroup::Messages, 18};
+constexpr TextId kCharacterTip{TextGroup::Tips, 6};
 constexpr const char* kSoundFolder = "/usr/share/sounds/";
 constexpr std::size_t kWaveLimit = std::size_t{64} << 20U; // a chime is a matter of seconds
 constexpr int kLongestRepeat = 999;
@@ -145,6 +146,10 @@ void Settings::ShowSpeech() {
     }
     if (!leftOut.empty()) {
         CombChr->setToolTip(PlainTip(ToQt(leftOut)));
+    } else if (rooms_.Record.HelpTextOn != 0) {
+        CombChr->setToolTip(ToQt(rooms_.Texts.Text(kCharacterTip)));
+    } else {
+        CombChr->setToolTip({});
     }
     Check[5]->setEnabled(some);
     for (QWidget* const detail :
@@ -201,6 +206,7 @@ void Settings::LoadTips() {
     for (QScrollBar* const bar : {VSRed, VSGreen, VSBlue}) {
         bar->setToolTip(on ? bar->accessibleName() : QString());
     }
+    ShowSpeech(); // whose list tells, whether tips are on or not, why a character is not in it
 }
 
 void Settings::DoColor() {
@@ -334,9 +340,12 @@ void Settings::ComModem_Click() {
     const auto found = rooms_.Actions.FindModem();
     setEnabled(true);
     ComModem->setFocus(); // which being disabled has taken
-    rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle),
-                       found ? TextOf(rooms_.Texts, ProgramText::ModemFound, *found)
-                             : rooms_.Texts.Text(kModemNotFound),
+    std::string text = found ? TextOf(rooms_.Texts, ProgramText::ModemFound, found.Value())
+                             : rooms_.Texts.Text(kModemNotFound);
+    if (!found && !found.Failure().Text.empty()) {
+        text += "\n" + found.Failure().Text;
+    }
+    rooms_.Boxes.Show({rooms_.Texts.Text(texts::kMessengerTitle), text,
                        found ? DialogIcon::None : DialogIcon::Critical});
     ShowRecord();
 }

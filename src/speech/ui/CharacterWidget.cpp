@@ -100,6 +100,11 @@ void CharacterWidget::mouseMoveEvent(QMouseEvent* event) {
     hooks_.Dragged();
 }
 
+// A double click is one click: its second half is not meant for what the first has brought about.
+void CharacterWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+}
+
 void CharacterWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && std::exchange(press_, Press::None) == Press::Pressed) {
         hooks_.Clicked();

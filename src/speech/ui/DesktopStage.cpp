@@ -145,7 +145,7 @@ void DesktopStage::PlaceBalloonWindow() {
 }
 
 void DesktopStage::Clicked() {
-    if (const auto clicked = events_.Clicked; visible_ && clicked) {
+    if (const auto clicked = events_.Clicked) {
         clicked();
     }
 }

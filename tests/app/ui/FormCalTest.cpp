@@ -28,6 +28,12 @@ struct RecordingShell : Shell {
     }
 };
 
+struct NotedSpeaker : SilentSpeaker {
+    std::vector<std::string> Said;
+
+    void Talk(const std::string& text, AfterSpeaking /*after*/) override { Said.push_back(text); }
+};
+
 // The main window on 14 May 2026, shown.
 struct MonthScene : DiaryScene {
     Selection Dates{2026, 2026, 4, 14, 4, 14};
@@ -35,7 +41,7 @@ struct MonthScene : DiaryScene {
     Languages Tongues{Files, "/home/me/Lan.dat", Texts};
     PictureTable Pictures;
     std::string Folder = kFolder;
-    SilentSpeaker Speech;
+    NotedSpeaker Speech;
     FakeMediaDevices Devices;
     CountingBeeper Bell;
     std::vector<std::string> Told;
@@ -52,7 +58,7 @@ struct MonthScene : DiaryScene {
     int PicturesSaved = 0;
     int Quits = 0;
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
-                    Desktop, Clock, Pieces},
+                    Desktop, Clock, Pieces, Files},
                    {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
                     [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; }, [] {}, [](int) {},
                     [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
@@ -323,6 +329,33 @@ TEST(FormCalTest, TipsGoAndComeBack) {
     scene.Settings.HelpTextOn = 1;
     scene.Window.LoadTips();
     EXPECT_NE(picture->toolTip(), QString());
+}
+
+TEST(FormCalTest, ADateAndAPictureAreReadAloudWhereTheSettingsSaySo) {
+    MonthScene scene;
+    const DayPlace today{14, 4, 0};
+    scene.Insert(today, {7, 5, "Dentist", {}, {}, {}, 0});
+    scene.Insert(today, {12, 0, "hidden", {}, {}, {}, 1});
+    scene.Insert(today, {19, 30, "Choir", {}, {}, {}, 0});
+    scene.Files.Put("/home/me/Speech/June.txt", "The year\x92s middle");
+    scene.Pictures.MonthSpeech[5] = "/home/me/Speech/June.txt";
+    scene.Show();
+    const auto heard = [&](std::size_t count) {
+        return QTest::qWaitFor([&] { return scene.Speech.Said.size() >= count; }, 3000);
+    };
+    QTest::mouseClick(scene.Date(14), Qt::LeftButton);
+    scene.Settings.SpeakDate = 1;
+    scene.Settings.SpeakPicture = 1;
+    QTest::mouseClick(scene.Date(15), Qt::LeftButton); // nothing to say
+    QTest::mouseDClick(scene.Date(14), Qt::LeftButton);
+    QTest::mouseClick(scene.Date(14), Qt::LeftButton);
+    EXPECT_TRUE(heard(1));
+    scene.Press(Qt::Key_PageDown); // June
+    EXPECT_TRUE(heard(2));
+    EXPECT_THAT(scene.Speech.Said,
+                testing::ElementsAre("Message 1\r\n7:05, Dentist\r\nMessage 2\r\n19:30, Choir",
+                                     "The year\xE2\x80\x99s middle"));
+    EXPECT_THAT(scene.Opened, testing::ElementsAre(14));
 }
 
 } // namespace

@@ -40,7 +40,7 @@ struct NoActions : SettingsActions {
     [[nodiscard]] std::vector<std::string> Characters() const override { return {"Kes.acs"}; }
     bool LoadCharacter() override { return true; }
     void Talk(const std::string& /*text*/) override {}
-    std::optional<std::string> FindModem() override { return std::nullopt; }
+    Result<std::string> FindModem() override { return Error{ErrorCode::NotFound, {}}; }
     void PortChosen() override {}
     void CheckCharacter() override {}
     void CheckSpeech() override {}
@@ -154,8 +154,8 @@ class LanguageRenderTest : public testing::TestWithParam<int> {};
 TEST_P(LanguageRenderTest, TheMonth) {
     Windows all(GetParam());
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
-                   all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock,
-                   all.Pieces},
+                   all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock, all.Pieces,
+                   all.Files},
                   {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
     month.LoadCaptions();

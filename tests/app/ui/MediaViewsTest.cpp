@@ -43,7 +43,7 @@ struct PanelScene : DiaryScene {
     PosixFileStore Disc;
     PieceFiles Pieces{Disc, PlainScratchWriter(Disc), FromQt(Scratch.path()) + "/"};
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
-                    Desktop, Clock, Pieces},
+                    Desktop, Clock, Pieces, Files},
                    {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
                     [] {}, [] {}, [] {}, [] {}, [] {}, [] {}}};
 

@@ -25,8 +25,12 @@ struct NoDetails : ReminderDetails {
     bool SoundWorks() const override { return false; }
     bool VideoWorks() const override { return false; }
     bool CdWorks() const override { return false; }
-    bool AskPhoneNumbers(ReminderExtra& /*extra*/) override { return false; }
-    bool AskMailAddress(ReminderExtra& /*extra*/) override { return false; }
+    DetailsAnswer AskPhoneNumbers(ReminderExtra& /*extra*/) override {
+        return DetailsAnswer::SwitchedOff;
+    }
+    DetailsAnswer AskMailAddress(ReminderExtra& /*extra*/) override {
+        return DetailsAnswer::SwitchedOff;
+    }
     void Preview(const std::string& /*path*/) override {}
 };
 

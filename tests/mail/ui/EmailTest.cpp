@@ -65,7 +65,10 @@ struct Desk {
     SteppedLoop Loop;
     ScriptedDialogs Boxes;
     StringTable Texts = MsgDefaults();
-    MailDesk Mail{{Transport, Keyring, Files, Clock, Loop, Boxes, Texts}, "/home/me/Mail.dat"};
+    std::vector<std::string> Told;
+    MailDesk Mail{{Transport, Keyring, Files, Clock, Loop, Boxes, Texts},
+                  "/home/me/Mail.dat",
+                  [this](const std::string& text) { Told.push_back(text); }};
 
     void HaveAccount() {
         Files.Put("/home/me/Mail.dat", WriteMailAccount(kAccount));
@@ -97,7 +100,7 @@ TEST(EmailTest, DetailsAreKeptWhenTheWindowIsClosedAndWhole) {
         Type(email, "TextName", "Joe B.");
         QTest::keyClick(email, Qt::Key_Return);
     });
-    EXPECT_TRUE(desk.Mail.AskMailAddress(extra));
+    EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::Given);
     EXPECT_EQ(extra, (ReminderExtra{"0", "Joe B.", "joe@example.com", "3"}));
     ASSERT_EQ(desk.Boxes.Shown.size(), 3U);
     EXPECT_EQ(desk.Boxes.Shown[0].Text, "Please Fill in Both Boxes");
@@ -114,7 +117,7 @@ TEST(EmailTest, CancellingLeavesTheDetailsAsTheyWere) {
         Type(Window("Email"), "TextName", "Jim");
         QTest::keyClick(Window("Email"), Qt::Key_Escape);
     });
-    EXPECT_FALSE(desk.Mail.AskMailAddress(extra));
+    EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::SwitchedOff);
     EXPECT_EQ(extra[1], "Joe");
 }
 
@@ -142,7 +145,7 @@ TEST(EmailTest, TheFirstAddressLeadsToTheAccount) {
         });
         Click(Window("Email"), "ComSave");
     });
-    EXPECT_TRUE(desk.Mail.AskMailAddress(extra));
+    EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::Given);
     EXPECT_EQ(desk.Boxes.Shown.size(), 3U); // server, address, password
     EXPECT_EQ(desk.Files.Content("/home/me/Mail.dat"),
               "Kestrova Mail Account\r\nServer: smtp.example.org\r\nPort: 25\r\nSecurity: None\r\n"
@@ -173,6 +176,47 @@ TEST(EmailTest, AnInvitationIsSentFromItsWindow) {
     EXPECT_EQ(desk.Boxes.Shown.back().Text, "The invitation has been sent.");
     ASSERT_EQ(desk.Transport.Sent.size(), 3U);
     EXPECT_EQ(desk.Transport.Sent[2].Recipient, "e@example.com");
+}
+
+TEST(EmailTest, AnInvitationThatIsBeingTypedComesBackAfterTheDetails) {
+    Desk desk;
+    desk.HaveAccount();
+    desk.Mail.TellAFriend();
+    QWidget* const email = Window("Email");
+    Type(email, "TextName", "Jane");
+    Type(email, "TextMail(0)", "a@example.com");
+    Type(email, "TextMail(4)", "half@exam");
+    ReminderExtra extra{"", "Joe", "joe@example.com", ""};
+    desk.Later([&] {
+        EXPECT_FALSE(In<QLineEdit>(email, "TextMail(4)").isVisible());
+        Click(email, "ComSave");
+    });
+    EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::Given);
+    EXPECT_EQ(extra[2], "joe@example.com");
+    ASSERT_TRUE(email->isVisible());
+    EXPECT_EQ(email->windowModality(), Qt::NonModal);
+    EXPECT_EQ(In<QLineEdit>(email, "TextName").text(), QStringLiteral("Jane"));
+    EXPECT_EQ(In<QLineEdit>(email, "TextMail(0)").text(), QStringLiteral("a@example.com"));
+    EXPECT_EQ(In<QLineEdit>(email, "TextMail(4)").text(), QStringLiteral("half@exam"));
+    Type(email, "TextMail(4)", "half@example.com");
+    Click(email, "ComSend");
+    EXPECT_EQ(desk.Transport.Sent.size(), 2U);
+}
+
+TEST(EmailTest, WhileAnInvitationIsBeingSentNoDetailsAreAskedForAndTheUserIsTold) {
+    Desk desk;
+    desk.HaveAccount();
+    desk.Mail.TellAFriend();
+    Type(Window("Email"), "TextMail(0)", "a@example.com");
+    desk.Transport.Outcomes = {std::nullopt};
+    desk.Loop.WhileWaiting = [&] {
+        ReminderExtra extra{"", "Joe", "joe@example.com", ""};
+        EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::NotNow);
+        EXPECT_THAT(desk.Boxes.Shown.back().Text, testing::HasSubstr("on its way"));
+    };
+    Click(Window("Email"), "ComSend");
+    EXPECT_EQ(In<QLineEdit>(Window("Email"), "TextMail(0)").text(),
+              QStringLiteral("a@example.com"));
 }
 
 TEST(EmailTest, AReminderIsSeenUnlessTheUserIsAtTheWindow) {
@@ -207,17 +251,6 @@ TEST(EmailTest, AReminderWithoutAnAccountWaitsForNobody) {
     ASSERT_NE(Window("MailLogOn"), nullptr);
     QTest::keyClick(Window("MailLogOn"), Qt::Key_Escape);
     EXPECT_TRUE(desk.Mail.Reminders().MailFailed());
-}
-
-TEST(EmailTest, WhatFailsStandsInABoxThatNobodyWaitsFor) {
-    Desk desk;
-    desk.HaveAccount();
-    desk.Transport.Outcomes = {MailOutcome{MailTrouble::Refused, "<b>554</b>"}};
-    EXPECT_EQ(desk.Mail.Reminders().SendMail(DiaryEvent{}), MailStatus::TryLater);
-    auto* const notice = qobject_cast<QMessageBox*>(Window("MailNotice"));
-    ASSERT_NE(notice, nullptr);
-    EXPECT_TRUE(notice->text().contains(QStringLiteral("<b>554</b>")));
-    EXPECT_EQ(notice->textFormat(), Qt::PlainText);
 }
 
 void ExpectNothingIsCut(QWidget* window) {
@@ -264,7 +297,7 @@ TEST(EmailTest, NoTextIsCutInAnyLanguage) {
             ExpectNothingIsCut(Window("Email"));
             Click(Window("Email"), "ComCancel");
         });
-        EXPECT_FALSE(desk.Mail.AskMailAddress(extra));
+        EXPECT_EQ(desk.Mail.AskMailAddress(extra), DetailsAnswer::SwitchedOff);
     }
 }
 

@@ -52,7 +52,7 @@ struct ModemScene : CallScene {
     // Opens the window for a reminder, and does this in it.
     bool Ask(std::array<std::string, 4>& extra, const std::function<void()>& user) {
         QTimer::singleShot(0, &Window, user);
-        return Window.AskPhoneNumbers(extra);
+        return Window.AskPhoneNumbers(extra) == DetailsAnswer::Given;
     }
 };
 
@@ -210,6 +210,24 @@ TEST(ModemTest, AReminderCallComesAndGoesByItselfAndEscapeStopsIt) {
         EXPECT_FALSE(scene.Window.isVisible());
         EXPECT_THAT(scene.Boxes.Asked, testing::IsEmpty());
     }
+}
+
+TEST(ModemTest, NumbersAreNotAskedForInTheMiddleOfACall) {
+    ModemScene scene;
+    int asked = 0;
+    scene.OnCommand = [&](const std::string& command) {
+        if (command == "ATD5") {
+            Numbers none;
+            Numbers own = {"", "7", "", ""};
+            EXPECT_EQ(scene.Window.AskPhoneNumbers(none), DetailsAnswer::NotNow);
+            EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
+            EXPECT_EQ(scene.Window.AskPhoneNumbers(own), DetailsAnswer::Given);
+            EXPECT_EQ(own[1], "7");
+            ++asked;
+        }
+    };
+    scene.Phone.SendMessage("ATD5", "x");
+    EXPECT_EQ(asked, 1);
 }
 
 TEST(ModemTest, HowTheMessageIsGivenIsASetting) {

@@ -102,6 +102,8 @@ TEST(SpeechModuleTest, WhatIsNotMeantToBeSpokenDoesNoHarm) {
         EXPECT_LT(Seconds(Say(text)), 20);
     }
     EXPECT_GT(Seconds(Say(std::string(5000, 'a'))), 1);
+    const auto book = SpeechModule(KESTROVA_SPEECH).Say(std::string(100'001, 'a'), kEnglish);
+    EXPECT_EQ(book.Failure().Code, ErrorCode::TooLarge);
 }
 
 TEST(SpeechModuleTest, PicturesAreDrawnOverWhatIsThere) {

@@ -37,11 +37,14 @@ struct AskedActions : SettingsActions {
     [[nodiscard]] std::vector<std::string> Characters() const override { return Voices; }
     bool LoadCharacter() override { return CharacterLoads; }
     void Talk(const std::string& text) override { Asked.push_back("talk " + text); }
-    std::optional<std::string> FindModem() override { return Modem; }
+    Result<std::string> FindModem() override {
+        return Modem ? Result<std::string>(*Modem) : Error{ErrorCode::NotFound, "port taken"};
+    }
     void PortChosen() override {}
     void CheckCharacter() override {}
     void CheckSpeech() override {}
-    std::vector<std::string> LeftOutCharacters() const override { return {}; }
+    std::vector<std::string> LeftOut;
+    std::vector<std::string> LeftOutCharacters() const override { return LeftOut; }
     bool SoundWorks() const override { return Sounds; }
     void MakeSound(const std::string& path) override { Asked.push_back("sound " + path); }
     void ChangeYear() override { Asked.emplace_back("year"); }
@@ -213,7 +216,7 @@ TEST(SettingsTest, TheModemIsTestedOnlyWhereAPortIsChosen) {
     ASSERT_TRUE(test->isEnabled());
     scene.Click("ComModem");
     ASSERT_EQ(scene.Boxes.Shown.size(), 1U);
-    EXPECT_EQ(scene.Boxes.Shown[0].Text, "Suitable Modem Not Found");
+    EXPECT_EQ(scene.Boxes.Shown[0].Text, "Suitable Modem Not Found\nport taken");
     scene.Actions.Modem = "Elsa 56k";
     scene.Click("ComModem");
     EXPECT_EQ(scene.Boxes.Shown[1].Text, "Modem found: Elsa 56k");
@@ -256,6 +259,26 @@ TEST(SettingsTest, SpeechThatCannotBeHadSwitchesItselfOff) {
     EXPECT_EQ(scene.Record.CharacterName, "robby.acs");
     scene.Click("ComSpchTest");
     EXPECT_EQ(scene.Actions.Asked.back(), "talk Testing Text To Speech System");
+}
+
+TEST(SettingsTest, TheListTellsWhyACharacterIsLeftOutWhetherTipsAreOnOrNot) {
+    SettingsScene scene;
+    scene.Actions.LeftOut = {"“A.acs” is damaged.", "“B.acs” is too large."};
+    scene.Record.HelpTextOn = 0;
+    scene.Open();
+    auto* const list = scene.Find<QComboBox>("CombChr");
+    for (const int ticks : {1, 2, 3}) {
+        EXPECT_TRUE(list->toolTip().contains(QStringLiteral("A.acs"))) << ticks;
+        scene.Click("Check10");
+    }
+    scene.Window->LoadCaptions();
+    EXPECT_TRUE(list->toolTip().contains(QStringLiteral("B.acs")));
+    // A character that has been mended is no longer told of.
+    scene.Actions.LeftOut.clear();
+    scene.Window->ShowRecord();
+    EXPECT_EQ(FromQt(list->toolTip()), scene.Texts.Text({TextGroup::Tips, 6}));
+    scene.Click("Check10");
+    EXPECT_EQ(list->toolTip(), QString());
 }
 
 TEST(SettingsTest, DefaultsCanBeTakenBack) {

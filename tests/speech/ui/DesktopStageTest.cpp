@@ -142,7 +142,10 @@ TEST_F(DesktopStageTest, AClickIsToldAndADragIsRemembered) {
     EXPECT_EQ(Clicks, 1);
     Stage.Hide();
     QTest::mouseClick(Figure, Qt::LeftButton, {}, Middle(*Figure));
-    EXPECT_EQ(Clicks, 1) << "it is about to go";
+    EXPECT_EQ(Clicks, 2) << "it is about to go";
+    QTest::mouseDClick(Figure, Qt::LeftButton, {}, Middle(*Figure));
+    QTest::mouseRelease(Figure, Qt::LeftButton, {}, Middle(*Figure));
+    EXPECT_EQ(Clicks, 2) << "the second half of a double click is none";
     ASSERT_TRUE(WaitFor([this] { return !Figure->isVisible(); }));
     Stage.Show();
     EXPECT_EQ(Figure->pos(), after);

@@ -10,6 +10,7 @@
 #include <future>
 #include <memory>
 #include <string_view>
+#include <system_error>
 #include <thread>
 
 namespace kestrova {
@@ -18,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A sentence takes milliseconds, a long note a second.
+// A sentence takes milliseconds, a page a moment.
 constexpr auto kLongestWork = 10s;
 constexpr std::size_t kLongestText = 100'000;    // bytes
 constexpr std::size_t kMostSamples = 40'000'000; // half an hour
@@ -120,7 +121,11 @@ bool EspeakVoice::Do(std::function<void()> work) {
     }
     std::packaged_task<void()> task(std::move(work));
     const auto done = task.get_future();
-    std::thread(std::move(task)).detach();
+    try {
+        std::thread(std::move(task)).detach();
+    } catch (const std::system_error&) {
+        return false; // the machine has no room for another thread
+    }
     stuck_ = done.wait_for(kLongestWork) != std::future_status::ready;
     return !stuck_;
 }
@@ -131,9 +136,11 @@ bool EspeakVoice::HasVoice(const std::string& locale) {
 }
 
 Result<SpokenSound> EspeakVoice::Say(const std::string& text, const VoiceChoice& choice) {
+    if (text.size() > kLongestText) {
+        return Error{ErrorCode::TooLarge, choice.Locale};
+    }
     const auto said = std::make_shared<Result<SpokenSound>>(Error{ErrorCode::Busy, choice.Locale});
-    const bool done =
-        Do([said, choice, words = text.substr(0, kLongestText)] { *said = Speak(words, choice); });
+    const bool done = Do([said, choice, text] { *said = Speak(text, choice); });
     return done ? std::move(*said) : Error{ErrorCode::Busy, choice.Locale};
 }
 

@@ -36,6 +36,7 @@ struct NoWindows : MailWindows {
     void ShowSent(std::size_t /*number*/) override {}
     void SetMailWindowMode(MailWindowMode /*mode*/) override {}
     bool AskLogOn(const LogOnOffer& /*offer*/) override { return false; }
+    [[nodiscard]] bool IsLogOnOpen() const override { return false; }
     void OfferLogOn(const LogOnOffer& /*offer*/) override {}
 };
 
