@@ -209,8 +209,7 @@ void FormCal::closeEvent(QCloseEvent* event) {
         hide();
         return;
     }
-    event->accept();
-    hooks_.Quit();
+    event->setAccepted(hooks_.Quit());
 }
 
 void FormCal::MNU_Exit_Click() {
@@ -356,6 +355,7 @@ void FormCal::MNU_File_Click() {
     MNU_Save->setEnabled(!film && Image1->HasPicture());
     MNU_Full->setChecked(rooms_.Settings.VideoFullScreen != 0);
     MNU_Repeat->setChecked(rooms_.Settings.VideoRepeat != 0);
+    MNU_Pdf->setChecked(rooms_.Settings.PrintNumber1 != 0);
 }
 
 void FormCal::MNU_Full_Click() {

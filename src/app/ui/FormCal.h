@@ -68,7 +68,10 @@ public:
         std::function<void()> SavePic; // and where the one on show is kept as a bitmap
         std::function<void()> TellAFriend;
         std::function<void()> OpenMailAccount;
-        std::function<void()> Quit;
+        std::function<void()> Preview; // the print layout of the month on show
+        std::function<void()> PrintDiary;
+        std::function<void(bool on)> PrintToPdf; // a file takes the printer's place
+        std::function<bool()> Quit; // false when the user has something to finish first
     };
 
     FormCal(const Rooms& rooms, Hooks hooks);
@@ -179,6 +182,7 @@ private:
     QAction* MNU_Half = nullptr;
     QAction* MNU_Repeat = nullptr;
     QAction* MNU_Save = nullptr;
+    QAction* MNU_Pdf = nullptr;
     std::array<QAction*, kMonths> MNU_Mon{};
     std::array<QAction*, kMaxDays> MNU_Day{};
     std::array<QAction*, 3> MNU_WeekSt{};

@@ -215,6 +215,14 @@ void FormCal::BuildFileMenu() {
     MNU_Save = AddAction(MNU_File, QStringLiteral("MNU_Save"), [this] { hooks_.SavePic(); });
     MNU_Save->setShortcut(QKeySequence::Save);
     MNU_File->addSeparator();
+    AddAction(MNU_File, QStringLiteral("MNU_Preview"), [this] {
+        hooks_.Preview();
+    })->setShortcut(QKeySequence::Print);
+    AddAction(MNU_File, QStringLiteral("MNU_PrDiary"), [this] { hooks_.PrintDiary(); });
+    MNU_Pdf = AddAction(MNU_File, QStringLiteral("MNU_Pdf"),
+                        [this] { hooks_.PrintToPdf(MNU_Pdf->isChecked()); });
+    MNU_Pdf->setCheckable(true);
+    MNU_File->addSeparator();
     AddAction(MNU_File, QStringLiteral("MNU_Settings"), [this] {
         MNU_Settings_Click();
     })->setShortcut(Qt::CTRL | Qt::Key_Comma);
@@ -289,6 +297,9 @@ void FormCal::LoadCaptions() {
         {"MNU_Media", ProgramText::MenuMedia},
         {"MNU_Picture", ProgramText::MenuMonthPicture},
         {"MNU_Save", ProgramText::MenuSavePicture},
+        {"MNU_Preview", ProgramText::MenuPrintPreview},
+        {"MNU_PrDiary", ProgramText::MenuPrintDiary},
+        {"MNU_Pdf", ProgramText::MenuPdfPrinter},
         {"MNU_Settings", ProgramText::MenuSettings},
         {"MNU_Exit", ProgramText::MenuExit},
         {"MNU_Today", ProgramText::MenuThisMonth},

@@ -84,6 +84,10 @@ void PrintOffice::MNU_Pdf_Click(bool on) {
     keepChoices_();
 }
 
+bool PrintOffice::LeavePage() {
+    return !preview_ || !preview_->isVisible() || preview_->LeavePage();
+}
+
 void PrintOffice::LoadCaptions() {
     if (preview_) {
         preview_->LoadCaptions();

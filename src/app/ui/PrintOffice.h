@@ -38,6 +38,9 @@ public:
     void MNU_PrDiary_Click();
     void MNU_Pdf_Click(bool on);
 
+    // The program is to end: whether a page that has been changed may be left.
+    [[nodiscard]] bool LeavePage();
+
     void LoadCaptions();
 
 private:

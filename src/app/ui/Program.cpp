@@ -52,6 +52,8 @@ Program::Program(Orders orders, InstanceLink& link)
                beeper_}),
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
+      print_({files_, dialogs_, dates_, texts_, settings_, pictures_, store_, dataFolder_},
+             [this] { KeepPrintChoices(); }),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
                 media_, dialogs_, shell_, clock_, pieces_, files_},
                {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
@@ -61,7 +63,8 @@ Program::Program(Orders orders, InstanceLink& link)
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
                 [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
                 [this] { mail_.TellAFriend(); }, [this] { mail_.OpenAccount(); },
-                [this] { End(); }}) {
+                [this] { print_.MNU_Preview_Click(); }, [this] { print_.MNU_PrDiary_Click(); },
+                [this](bool on) { print_.MNU_Pdf_Click(on); }, [this] { return Quit(); }}) {
     stage_.SetNeighbour(&formCal_);
     Timer1.setInterval(kTickMilliseconds);
     QObject::connect(&Timer1, &QTimer::timeout, &Timer1, [this] {
@@ -100,6 +103,14 @@ void Program::End() {
         diary_->SaveNote(SaveMessages::Keep);
     }
     QApplication::exit(0);
+}
+
+bool Program::Quit() {
+    const bool leaves = print_.LeavePage();
+    if (leaves) {
+        End();
+    }
+    return leaves;
 }
 
 void Program::FillStartUp() {
@@ -227,6 +238,7 @@ void Program::LoadCaptions() {
         modemWindow_->LoadCaptions();
     }
     mail_.LoadCaptions();
+    print_.LoadCaptions();
     toolkitTexts_.Use(FixedLanguages()[static_cast<std::size_t>(texts_.ProgramLanguage)].Locale);
 }
 
@@ -260,6 +272,12 @@ void Program::KeepMenuChoices() {
 void Program::KeepVideoChoices() {
     kept_.VideoFullScreen = settings_.VideoFullScreen;
     kept_.VideoRepeat = settings_.VideoRepeat;
+    KeepMenuChoices();
+}
+
+void Program::KeepPrintChoices() {
+    kept_.PrintNumber1 = settings_.PrintNumber1;
+    kept_.PrintNumber2 = settings_.PrintNumber2;
     KeepMenuChoices();
 }
 

@@ -4,6 +4,7 @@
 #include "app/StartUp.h"
 #include "app/YearTurn.h"
 #include "app/ui/FormCal.h"
+#include "app/ui/PrintOffice.h"
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
 #include "language/ProgramTexts.h"
@@ -64,6 +65,7 @@ public:
     void End();
 
 private:
+    bool Quit();
     void FillStartUp();
     void FillFirstSteps();
     void FillDiarySteps();
@@ -85,6 +87,7 @@ private:
     void SettleChoices();
     void KeepMenuChoices();
     void KeepVideoChoices();
+    void KeepPrintChoices();
     void ShowVideoChoices();
     void LanguageSaved();
     void TextsChanged(const StringTable& before);
@@ -183,6 +186,7 @@ private:
     ReminderReview review_;
     ClockTick tick_;
 
+    PrintOffice print_;
     FormCal formCal_;
     // Made on first use, which start-up need not wait for.
     std::unique_ptr<Diary> diary_;

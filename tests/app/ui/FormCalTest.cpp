@@ -63,8 +63,8 @@ struct MonthScene : DiaryScene {
                     [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; }, [] {}, [](int) {},
                     [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
                     [this](int minutes) { Countdown = minutes; }, [] {},
-                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {},
-                    [this] { ++Quits; }}};
+                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {}, [] {},
+                    [] {}, [](bool) {}, [this] { return ++Quits > 0; }}};
 
     void Show() {
         Window.LoadCaptions();

@@ -153,11 +153,11 @@ class LanguageRenderTest : public testing::TestWithParam<int> {};
 
 TEST_P(LanguageRenderTest, TheMonth) {
     Windows all(GetParam());
-    FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
-                   all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock, all.Pieces,
-                   all.Files},
-                  {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
-                   [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
+    FormCal month(
+        {all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures, all.Folder,
+         all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock, all.Pieces, all.Files},
+        {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
+         [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {}, [] { return true; }});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);

@@ -45,7 +45,8 @@ struct PanelScene : DiaryScene {
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces, Files},
                    {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
-                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}}};
+                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {},
+                    [] { return true; }}};
 
     explicit PanelScene(const std::string& drive = "/dev/cdrom") {
         Devices.Installed = true;
