@@ -21,7 +21,7 @@ constexpr int kRoomForGrid = 5000; // what the picture leaves of the box's heigh
 
 constexpr int kMessageRow = 300; // from one message of a day to the next, and from the cell's top
 constexpr int kMessageInset = 50;
-constexpr int kMessagesToFit = 2; // in each cell, where the picture can make room
+constexpr int kLeastPicture = 1500; // a lower one is not worth its room
 
 // What a font can be asked for; settings files have held anything.
 constexpr float kSmallestFont = 1;
@@ -43,8 +43,31 @@ int BalancedWidth(const LayoutItem& label, const TextMeasure& measure) {
     return measure.TextWidth(label.Font(), label.Caption + label.Caption.substr(0, blanks));
 }
 
-// The height that the picture may have when each cell is to hold its date and some messages, as
-// long as that leaves the picture two fifths of the box.
+// The last slot of a day whose message is on the page; 0 when there is none.
+int LastShown(const DiaryTable& table, const DayPlace& day) {
+    int last = 0;
+    for (int slot = 1; slot <= kScratchSlot && !table.At({slot, day}).IsFree(); ++slot) {
+        if (table.At({slot, day}).Hide == 0) {
+            last = slot;
+        }
+    }
+    return last;
+}
+
+// How many rows of messages the month's busiest day takes, at least one.
+int MessageRows(const MonthSource& month) {
+    const int year = month.Year - month.BaseYear;
+    int rows = 1;
+    for (int day = 1; year >= 0 && year < kDiaryYears && day <= NofDays(month.Year, month.Month);
+         ++day) {
+        rows = std::max(rows, LastShown(month.Table, {day, month.Month, year}));
+    }
+    return rows;
+}
+
+// The height that the picture may have when each cell is to hold its date and its messages. On an
+// upright page the picture has a quarter of the box even so; on a wide one there is no room for
+// both, and the messages go first.
 int HighestPicture(const LayoutItem& box, int top, const MonthSource& month,
                    const TextMeasure& measure) {
     LayoutItem name;
@@ -52,10 +75,11 @@ int HighestPicture(const LayoutItem& box, int top, const MonthSource& month,
     TakeStyle(name, month.Style(PrintStyleRole::DayName));
     TakeStyle(message, month.Style(PrintStyleRole::Event));
     const int names = 2 * measure.LineHeight(name.Font());
-    const int cell = kMessagesToFit * kMessageRow + measure.LineHeight(message.Font());
+    const int cell = MessageRows(month) * kMessageRow + measure.LineHeight(message.Font());
     const int left = Bottom(box) - top - names - kBelowCells - kSheetRows * cell;
-    const int fair = WholeTwips(std::int64_t{2} * box.Height, 5);
-    return std::max(0, std::min(box.Height - kRoomForGrid, std::max(left, fair)));
+    const int fair = box.Height > box.Width ? WholeTwips(box.Height, 4) : 0;
+    const int highest = std::min(box.Height - kRoomForGrid, std::max(left, fair));
+    return highest < kLeastPicture ? 0 : highest;
 }
 
 // Keeps the page's picture inside the background's box and below the header.

@@ -19,7 +19,8 @@ enum class FirstLayout { No, Yes };
 void PlaceBackground(PageLayout& page);
 
 // The page's picture, as large as its proportions and the room below the header allow when each
-// cell is to hold its date and two messages. Without a picture it takes no height.
+// cell is to hold its date and the messages of the month's busiest day. Without a picture, or
+// without room for one, it takes no height.
 void PlacePicture(PageLayout& page, const MonthSource& month, const TextMeasure& measure);
 
 // Both, for a page whose paper has changed.

@@ -73,7 +73,7 @@ void PrintEvent(std::span<const LayoutItem> family, LayoutKind kind, DrawingSurf
 }
 
 void PrintDate(const LayoutItem& cell, bool framed, DrawingSurface& output) {
-    PrintText(cell, LayoutKind::LabDates, Align::Left, output);
+    PrintText(cell, LayoutKind::LabDates, Align::Middle, output);
     if (cell.Enabled && framed) {
         DrawFrame(EdgesOf(cell), {cell.ForeColor, LineStyle::Solid, 1}, output);
     }

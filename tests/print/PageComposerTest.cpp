@@ -78,18 +78,31 @@ TEST(PageComposerTest, ThePictureKeepsItsProportionsAndLeavesRoomForMessages) {
         int Width;
         int Height;
         PageSize Surface;
+        int Messages; // of the busiest day
         Box Expected;
     };
     const PageSize portrait{11606, 16538};
-    for (const Row& row : {Row{400, 300, portrait, {1671, 3000, 8264, 6198}},
-                           Row{3000, 1000, portrait, {500, 3000, 10606, 3535}},
-                           Row{300, 400, portrait, {3479, 3000, 4648, 6198}},
-                           Row{400, 300, {16538, 11606}, {6532, 3000, 3475, 2606}},
-                           Row{400, 300, {11606, 8091}, {5803, 3000, 0, 0}}}) {
+    const PageSize landscape{16538, 11606};
+    for (const Row& row : {Row{400, 300, portrait, 0, {778, 3000, 10051, 7538}},
+                           Row{400, 300, portrait, 2, {1671, 3000, 8264, 6198}},
+                           Row{400, 300, portrait, 10, {3714, 3000, 4179, 3134}},
+                           Row{3000, 1000, portrait, 2, {500, 3000, 10606, 3535}},
+                           Row{300, 400, portrait, 2, {3479, 3000, 4648, 6198}},
+                           Row{400, 300, landscape, 0, {6532, 3000, 3475, 2606}},
+                           Row{400, 300, landscape, 2, {8269, 3000, 0, 0}},
+                           Row{400, 300, {11606, 8091}, 0, {5803, 3000, 0, 0}}}) {
+        SCOPED_TRACE(testing::Message() << row.Surface.Width << ", " << row.Messages);
         const auto picture = std::make_shared<FakePicture>(row.Width, row.Height);
-        const PageLayout page =
-            PrintedMonth(2026, 1, WeekStart::Sunday).Composed(picture, 0, row.Surface);
+        PrintedMonth month(2026, 1, WeekStart::Sunday);
+        for (int slot = 1; slot <= row.Messages; ++slot) {
+            month.Add(10, slot, "x");
+        }
+        const PageLayout page = month.Composed(picture, 0, row.Surface);
         EXPECT_EQ(BoxIn(page.Image2), row.Expected);
+        if (row.Messages == 2) {
+            const LayoutItem& second = page.LabEvent[1];
+            EXPECT_LE(second.Top + second.Height, Cell(page, 17).Top);
+        }
         const LayoutItem& last = Cell(page, 28);
         EXPECT_GT(last.Height, 0);
         EXPECT_LE(last.Top + last.Height, page.Image1.Top + page.Image1.Height);

@@ -16,7 +16,8 @@ TextBox::Lines LinesOf(LayoutKind kind, bool fitted) {
     switch (kind) {
     case LayoutKind::LabEvent: return TextBox::Lines::Broken;
     case LayoutKind::LabUser: return fitted ? TextBox::Lines::Whole : TextBox::Lines::Broken;
-    case LayoutKind::LabDays: return TextBox::Lines::Centred;
+    case LayoutKind::LabDays:
+    case LayoutKind::LabDates: return TextBox::Lines::Centred;
     default: return TextBox::Lines::Whole;
     }
 }

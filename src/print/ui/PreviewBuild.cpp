@@ -10,12 +10,14 @@
 #include <QActionGroup>
 #include <QBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 
 namespace kestrova {
 
 namespace {
 
 constexpr QSize kFirstSize{960, 900};
+constexpr QSize kAround{20, 60}; // the frame, and a little of the desktop
 constexpr QSize kSmallestSize{640, 480};
 constexpr int kZooms[] = {25, 50, 75, 100, 150, 200, 400}; // percent
 
@@ -27,7 +29,7 @@ Preview::Preview(const Rooms& rooms, Hooks hooks)
     setObjectName(QStringLiteral("Preview"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setMinimumSize(kSmallestSize);
-    resize(kFirstSize);
+    resize(kFirstSize.boundedTo(screen()->availableSize() - kAround));
     auto* const centre = new QWidget(this);
     auto* const column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
