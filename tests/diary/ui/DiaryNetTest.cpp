@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "diary/ui/PageScene.h"
+#include "diary/ui/DayPageScene.h"
 #include "language/ProgramTexts.h"
 
 #include <QWheelEvent>
@@ -16,7 +16,7 @@ constexpr const char* kRegister = "/home/me/NetUsers.txt";
 constexpr const char* kOwnPair = "/home/me/\r\nMy Diary\r\n";
 
 // One event of one's own, and one of Bob's, who is registered.
-struct NetScene : PageScene {
+struct NetScene : DayPageScene {
     NetScene() {
         Insert(kDay, MakeEvent(8, 0, "mine"));
         Files.Put(kBobsPath, WriteDiary(DiaryTable()));
@@ -54,7 +54,7 @@ struct NetScene : PageScene {
 };
 
 TEST(DiaryNetTest, TheFirstPageMakesARegister) {
-    PageScene page;
+    DayPageScene page;
     EXPECT_EQ(page.Files.Content(kRegister), kOwnPair);
     EXPECT_EQ(page.Find<QComboBox>("CombNet")->accessibleName(), QStringLiteral("Diary shown"));
     EXPECT_FALSE(page.Find<QAction>("MNU_Remove")->isEnabled());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/ui/Diary.h"
 
-#include "diary/ui/PageScene.h"
+#include "diary/ui/DayPageScene.h"
 #include "diary/ui/ScreenReminder.h"
 #include "ui/Twips.h"
 
@@ -16,7 +16,7 @@ namespace kestrova {
 namespace {
 
 TEST(DiaryWindowTest, AnEmptyDayShowsTenEmptyRowsAndTheAddLine) {
-    PageScene page;
+    DayPageScene page;
     EXPECT_EQ(page.Text("LabHead"), "Thursday  14    May    2026");
     EXPECT_EQ(page.Text("LabEvent(0)"), "<<Double Click Here To Add An Event>>");
     EXPECT_TRUE(page.Find<QLabel>("LabEvent(0)")->font().bold());
@@ -32,7 +32,7 @@ TEST(DiaryWindowTest, AnEmptyDayShowsTenEmptyRowsAndTheAddLine) {
 }
 
 TEST(DiaryWindowTest, ControlsStandAtTheirPlaces) {
-    PageScene page;
+    DayPageScene page;
     const QWidget* const sheet = page.Find<QLabel>("LabHead")->parentWidget();
     const int width = Twips(sheet->width());
     const struct {
@@ -62,7 +62,7 @@ TEST(DiaryWindowTest, ControlsStandAtTheirPlaces) {
 }
 
 TEST(DiaryWindowTest, EventsAreTypedAcceptedAndListedByTime) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "ten");
     page.Add("7", "seven");
     EXPECT_EQ(page.Text("LabTime(1)"), "07:00");
@@ -76,7 +76,7 @@ TEST(DiaryWindowTest, EventsAreTypedAcceptedAndListedByTime) {
 }
 
 TEST(DiaryWindowTest, PicturesAreChangedWhileNoRowIsEdited) {
-    PageScene scene;
+    DayPageScene scene;
     auto* const month = scene.Find<QPushButton>("ComMonPic");
     auto* const day = scene.Find<QPushButton>("ComDayPic");
     month->click();
@@ -88,7 +88,7 @@ TEST(DiaryWindowTest, PicturesAreChangedWhileNoRowIsEdited) {
 }
 
 TEST(DiaryWindowTest, EscapeLeavesTheRowAsItWas) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "ten");
     page.Click("LabEvent(1)");
     ASSERT_TRUE(page.Window.IsEditing());
@@ -107,7 +107,7 @@ TEST(DiaryWindowTest, EscapeLeavesTheRowAsItWas) {
 TEST(DiaryWindowTest, ClosingAsksBeforeTypedTextIsLost) {
     for (const bool save : {true, false}) {
         SCOPED_TRACE(save);
-        PageScene page;
+        DayPageScene page;
         page.Click("LabEvent(0)");
         QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("typed"));
         page.Boxes.Answers = {save};
@@ -117,14 +117,14 @@ TEST(DiaryWindowTest, ClosingAsksBeforeTypedTextIsLost) {
         EXPECT_EQ(page.Window.IsEditing(), !save);
         EXPECT_EQ(Messages(page.OnFile(), kDay), save ? "typed" : "");
     }
-    PageScene untouched;
+    DayPageScene untouched;
     untouched.Click("LabEvent(0)");
     untouched.Window.close();
     EXPECT_TRUE(untouched.Boxes.Asked.empty());
 }
 
 TEST(DiaryWindowTest, TimeBoxesRefuseWhatIsNoTime) {
-    PageScene page;
+    DayPageScene page;
     page.Click("LabEvent(0)");
     auto* const hour = page.Find<QLineEdit>("TextTme");
     hour->setText(QStringLiteral("2"));
@@ -140,7 +140,7 @@ TEST(DiaryWindowTest, TimeBoxesRefuseWhatIsNoTime) {
 }
 
 TEST(DiaryWindowTest, OnTodaysPageANewEventBeginsNow) {
-    PageScene page;
+    DayPageScene page;
     page.Clock.Time = {2026, 4, 14, 16, 5, 0};
     page.Click("LabEvent(0)");
     EXPECT_EQ(page.Find<QLineEdit>("TextTme")->text(), QStringLiteral("00"));
@@ -152,7 +152,7 @@ TEST(DiaryWindowTest, OnTodaysPageANewEventBeginsNow) {
 }
 
 TEST(DiaryWindowTest, TheKeyboardReachesEveryRow) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "ten");
     page.Add("11", "eleven");
     QTest::keyClick(&page.Window, Qt::Key_Down);
@@ -169,7 +169,7 @@ TEST(DiaryWindowTest, TheKeyboardReachesEveryRow) {
 }
 
 TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "ten");
     auto* const menu = page.Find<QMenu>("MNU_File");
     const auto enabled = [&](const char* name) {
@@ -187,7 +187,7 @@ TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
 }
 
 TEST(DiaryWindowTest, AClickElsewhereGoesThereUnlessSomethingWasTyped) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "ten");
     page.Add("11", "eleven");
     page.Click("LabEvent(1)");
@@ -208,7 +208,7 @@ TEST(DiaryWindowTest, AClickGoesToTheEventThatTheRowShows) {
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(&row - rows);
-        PageScene page;
+        DayPageScene page;
         page.Add("10", "ten");
         page.Add("11", "eleven");
         page.Click("LabEvent(1)");
@@ -225,7 +225,7 @@ TEST(DiaryWindowTest, AClickGoesToTheEventThatTheRowShows) {
 TEST(DiaryWindowTest, EnterAcceptsFromEveryControlOfTheRow) {
     for (const char* const name : {"TextTme", "TextTmm", "CombRpt", "CombRmd", "ChkHide(0)"}) {
         SCOPED_TRACE(name);
-        PageScene page;
+        DayPageScene page;
         page.Click("LabEvent(0)");
         QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("x"));
         QTest::keyClick(page.Find<QWidget>(name), Qt::Key_Return);
@@ -238,14 +238,14 @@ TEST(DiaryWindowTest, EnterAcceptsFromEveryControlOfTheRow) {
 }
 
 TEST(DiaryWindowTest, UserTextsAreNeverMarkup) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "<b>bold</b>");
     EXPECT_EQ(page.Find<QLabel>("LabEvent(1)")->textFormat(), Qt::PlainText);
     EXPECT_TRUE(page.Find<QLabel>("LabEvent(1)")->toolTip().contains(QStringLiteral("&lt;b&gt;")));
 }
 
 TEST(DiaryWindowTest, ARefusalKeepsWhatWasTyped) {
-    PageScene page;
+    DayPageScene page;
     page.Click("LabEvent(0)");
     QTest::keyClicks(page.Find<QLineEdit>("TextMsg"), QStringLiteral("typed"));
     page.Files.HoldLock(kDataPath);
@@ -258,7 +258,7 @@ TEST(DiaryWindowTest, ARefusalKeepsWhatWasTyped) {
 }
 
 TEST(DiaryWindowTest, AnEventSavedInAnotherLanguageOpensWithTheFirstItems) {
-    PageScene page;
+    DayPageScene page;
     page.WriteFromOutside(kDay, {MakeEvent(9, 0, "x", "Täglich", "Bildschirm")});
     page.Store.Refresh();
     page.Window.DrawMainPage();
@@ -301,7 +301,7 @@ TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
 }
 
 TEST(DiaryWindowTest, AReloadLeavesTheKeyboardOnItsEvent) {
-    PageScene page;
+    DayPageScene page;
     page.Add("10", "mine");
     page.Find<QLabel>("LabEvent(1)")->setFocus();
     page.WriteFromOutside(kDay, {MakeEvent(8, 0, "another's"), MakeEvent(10, 0, "mine")});

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "diary/ui/Edit.h"
 
-#include "diary/ui/PageScene.h"
+#include "diary/ui/DayPageScene.h"
 #include "language/ProgramTexts.h"
 #include "ui/Twips.h"
 
@@ -12,7 +12,7 @@ namespace kestrova {
 namespace {
 
 // The row of an event whose note is open.
-struct EditScene : PageScene {
+struct EditScene : DayPageScene {
     explicit EditScene(const std::string& note = {}) {
         Add("09", "mine");
         Files.Put(NotePath({1, kDay}), note);
@@ -32,7 +32,7 @@ struct EditScene : PageScene {
 };
 
 TEST(EditWindowTest, TheWindowShowsTheNoteOfTheRow) {
-    PageScene page;
+    DayPageScene page;
     auto* const button = page.Find<QPushButton>("ComInfo");
     EXPECT_EQ(button->text(), QStringLiteral("Event Details"));
     EXPECT_FALSE(button->isEnabled());
@@ -112,7 +112,7 @@ TEST(EditWindowTest, AnUnmodifiedNoteIsNotWritten) {
 }
 
 TEST(EditWindowTest, TheNoteOfANewEventGoesWithItAndIsMarked) {
-    PageScene page;
+    DayPageScene page;
     page.Add("12", "late");
     EXPECT_EQ(page.Find<QLabel>("LabEvent(1)")->toolTip().contains(QStringLiteral("Has a note")),
               false)
@@ -134,16 +134,20 @@ TEST(EditWindowTest, TheNoteOfANewEventGoesWithItAndIsMarked) {
 }
 
 TEST(EditWindowTest, GivingUpANewEventAsksBeforeItsNoteIsLost) {
-    const std::function<void(PageScene&)> ends[] = {
-        [](PageScene& page) { QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Escape); },
-        [](PageScene& page) { QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Return); },
-        [](PageScene& page) { page.Click("LabEvent(1)"); },
-        [](PageScene& page) { page.Window.close(); },
+    const std::function<void(DayPageScene&)> ends[] = {
+        [](DayPageScene& page) {
+            QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Escape);
+        },
+        [](DayPageScene& page) {
+            QTest::keyClick(page.Find<QLineEdit>("TextMsg"), Qt::Key_Return);
+        },
+        [](DayPageScene& page) { page.Click("LabEvent(1)"); },
+        [](DayPageScene& page) { page.Window.close(); },
     };
     for (const bool discard : {false, true}) {
         for (const auto& end : ends) {
             SCOPED_TRACE((discard ? 10 : 0) + (&end - ends));
-            PageScene page;
+            DayPageScene page;
             page.Add("12", "late");
             page.Click("LabEvent(0)");
             page.Find<QPushButton>("ComInfo")->click();

@@ -217,6 +217,7 @@ TEST_F(PrintModuleTest, TheFirstQueueServesWhereNoneIsTheDefault) {
 
 // The whole of the limit, and events go on.
 TEST_F(PrintModuleTest, AnybodyWhoNeverAnswersIsGivenUpOnInTime) {
+    ASSERT_TRUE(cups_->AddQueue(QStringLiteral("paper")));
     SlowCups silent(cups_->Port(), 0);
     PrivateCups::Use(silent.Port());
     PrintModule printer(KESTROVA_PRINT);
@@ -242,7 +243,8 @@ TEST_F(PrintModuleTest, AnybodyWhoNeverAnswersIsGivenUpOnInTime) {
     EXPECT_EQ(second->Failure().Code, ErrorCode::Busy);
     // It is asked anew when it may have recovered.
     PrivateCups::Use(cups_->Port());
-    EXPECT_TRUE(printer.Check());
+    const auto again = printer.Check();
+    EXPECT_TRUE(again) << again.Failure().Text;
 }
 
 // A document that nobody can read on the way through a network: it cannot be made smaller.

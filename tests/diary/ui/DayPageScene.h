@@ -35,7 +35,7 @@ struct NoDetails : ReminderDetails {
 };
 
 // The day page of 14 May 2026 on a diary in memory.
-struct PageScene : DiaryScene {
+struct DayPageScene : DiaryScene {
     Selection Dates{2026, 2026, kDay.Month, kDay.Day, 4, 13};
     AppSettings Settings = FirstSettings(Texts);
     NoDetails Details;
@@ -50,7 +50,7 @@ struct PageScene : DiaryScene {
                   [this](const std::string& text) { Spoken.push_back(text); },
                   [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; }}};
 
-    PageScene() {
+    DayPageScene() {
         Window.OpenPage();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&Window));
     }
