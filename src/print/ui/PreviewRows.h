@@ -6,7 +6,8 @@
 namespace kestrova {
 
 // A row of one of the window's menus.
-struct Preview::MenuRow {
+// The order of the columns is for who reads the rows, not for the machine.
+struct Preview::MenuRow { // NOLINT(clang-analyzer-optin.performance.Padding)
     enum class Sort {
         Menu,   // a menu within
         Plain,  // an entry
