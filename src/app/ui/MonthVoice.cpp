@@ -16,8 +16,8 @@ namespace kestrova {
 
 namespace {
 
-constexpr int kPageTurning = 700;               // milliseconds
-constexpr std::size_t kLongestText = 64 * 1024; // of a picture, bytes: an hour of words
+constexpr int kPageTurning = 700;           // milliseconds
+constexpr std::size_t kLongestText = 65536; // of a picture, bytes: an hour of words
 
 } // namespace
 
