@@ -7,13 +7,29 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 
 #include <algorithm>
+
+namespace {
+
+// Drawn beforehand, for reading the drawing itself would load one more library at the start.
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128}) {
+        icon.addFile(QStringLiteral(":/icon/kestrova-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kestrova"));
     QApplication::setApplicationVersion(QStringLiteral(KESTROVA_VERSION));
+    // By this name the desktop finds the program's own entry, and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.kestrova.kestrova"));
     // Hidden, the program goes on giving reminders.
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -21,6 +37,7 @@ int main(int argc, char** argv) {
     if (link.Join() == kestrova::InstanceRole::Newcomer) {
         return 0;
     }
+    QApplication::setWindowIcon(ProgramIcon());
     // The whole command line is one path, blanks and all, but for what the session says when it
     // starts the program and for the disc that the CD player is to play.
     QStringList words = QApplication::arguments().mid(1);

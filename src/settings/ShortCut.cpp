@@ -28,6 +28,15 @@ std::string ExecWord(const std::string& path) {
     return word += '"';
 }
 
+// A path as a value of its own, in which only a backslash is doubled.
+std::string Value(const std::string& path) {
+    std::string value;
+    for (const char c : path) {
+        value.append(c == '\\' ? 2 : 1, c);
+    }
+    return value;
+}
+
 bool IsControl(char c) {
     return static_cast<unsigned char>(c) < ' ' || c == '\x7F';
 }
@@ -49,7 +58,8 @@ Result<std::string> ShortCut::Entry(const AppSettings& settings) const {
         }
         entry += "=" + TextOf(table, ProgramText::DesktopComment) + "\n";
     }
-    entry += "Exec=" + ExecWord(executable_);
+    // A session passes over what it cannot find: the program may have been removed from the system.
+    entry += "TryExec=" + Value(executable_) + "\nExec=" + ExecWord(executable_);
     if ((settings.StartOnBoot & kStartsHidden) != 0) {
         entry += " --hidden";
     }

@@ -33,7 +33,8 @@ TEST(ShortCutTest, TheEntryIsMadeRenewedCopiedAndRemoved) {
     ASSERT_TRUE(shortCut.GetShortCut(StartedAs(0)));
     EXPECT_EQ(files.Content(kEntry), "of an older program"); // one that is there is enough
     ASSERT_TRUE(shortCut.SetShortCut(StartedAs(kStartsOnBoot)));
-    EXPECT_NE(files.Content(kEntry)->find("\nExec=\"/k/Kestrova\"\n"), std::string::npos);
+    EXPECT_NE(files.Content(kEntry)->find("\nTryExec=/k/Kestrova\nExec=\"/k/Kestrova\"\n"),
+              std::string::npos);
     EXPECT_EQ(files.Content(kStarted), files.Content(kEntry));
 
     ASSERT_TRUE(shortCut.SetShortCut(StartedAs(kStartsOnBoot | kStartsHidden)));

@@ -12,9 +12,15 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include <string_view>
+
 namespace kestrova {
 
 namespace {
+
+// How an installation is laid out, as seen from the folder of the executable: cmake/Install.cmake.
+constexpr std::string_view kInstalledFiles = "../../share/kestrova/shipped/";
+constexpr std::string_view kInstalledLauncher = "../../bin/kestrova";
 
 // The entries of the shipped folder that this one has been given, a name on each line. What the
 // user has deleted since stays deleted.
@@ -102,7 +108,23 @@ void GiveNew(const QString& from, const QString& to) {
     }
 }
 
-// The manual is nobody's but the program's: an older one makes room for that of a newer program.
+// An installed file may be older than the day on which its elder was copied. So a copy bears the
+// time of what it was copied from, and another time or size tells that the program ships another
+// file.
+bool IsCopyOf(const QFileInfo& source, const QFileInfo& target) {
+    return target.exists() && source.size() == target.size() &&
+           source.lastModified() == target.lastModified();
+}
+
+// A copy that could not be given its time is made again at the next start.
+void CopyWithTime(const QFileInfo& source, const QString& target) {
+    QFile copy(target);
+    if (QFile::copy(source.filePath(), target) && copy.open(QIODevice::Append)) {
+        copy.setFileTime(source.lastModified(), QFileDevice::FileModificationTime);
+    }
+}
+
+// The manual is nobody's but the program's: that of another program makes room for this one's.
 // Other files are not brought back: the user may have deleted them.
 void RenewManual(const QString& from, const QString& to) {
     QStringList names = {QStringLiteral("Help.htm")};
@@ -112,11 +134,10 @@ void RenewManual(const QString& from, const QString& to) {
     for (const QString& name : names) {
         const QFileInfo source(from + name);
         const QFileInfo target(to + name);
-        if (source.exists() &&
-            (!target.exists() || source.lastModified() > target.lastModified())) {
+        if (source.exists() && !IsCopyOf(source, target)) {
             QDir().mkpath(target.path());
             QFile::remove(target.filePath());
-            QFile::copy(source.filePath(), target.filePath());
+            CopyWithTime(source, target.filePath());
         }
     }
 }
@@ -131,15 +152,25 @@ void FillOwnFolder(const std::string& shipped, const std::string& own) {
     RenewManual(from, to);
 }
 
-std::string FindDataFolder() {
-    const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
-    if (QFileInfo(beside).isWritable()) {
-        return FromQt(beside);
+std::string DataFolderOf(const std::string& programFolder, const std::string& own) {
+    // An installed program leaves its folder alone even when root, who can write there, runs it.
+    const std::string installed = programFolder + std::string(kInstalledFiles);
+    if (QFileInfo(ToQt(installed)).isDir()) {
+        FillOwnFolder(installed, own);
+        return own;
     }
-    const QString own =
-        QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + QLatin1Char('/');
-    FillOwnFolder(FromQt(beside), FromQt(own));
-    return FromQt(own);
+    if (QFileInfo(ToQt(programFolder)).isWritable()) {
+        return programFolder;
+    }
+    FillOwnFolder(programFolder, own);
+    return own;
+}
+
+std::string FindDataFolder() {
+    return DataFolderOf(
+        FromQt(QCoreApplication::applicationDirPath() + QLatin1Char('/')),
+        FromQt(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
+               QLatin1Char('/')));
 }
 
 std::string AutostartFolder() {
@@ -147,8 +178,16 @@ std::string AutostartFolder() {
                   QStringLiteral("/autostart/"));
 }
 
+std::string LauncherOf(const std::string& executable) {
+    const QFileInfo program(ToQt(executable));
+    const QFileInfo launcher(program.path() + QLatin1Char('/') + ToQt(kInstalledLauncher));
+    const bool leads =
+        launcher.exists() && launcher.canonicalFilePath() == program.canonicalFilePath();
+    return leads ? FromQt(QDir::cleanPath(launcher.filePath())) : executable;
+}
+
 std::string ExecutablePath() {
-    return FromQt(QCoreApplication::applicationFilePath());
+    return LauncherOf(FromQt(QCoreApplication::applicationFilePath()));
 }
 
 } // namespace kestrova

@@ -87,11 +87,38 @@ TEST_F(DataFolderTest, AStartThatWasBrokenOffIsMadeGood) {
 TEST_F(DataFolderTest, TheManualIsAlwaysThatOfTheProgram) {
     Start();
     fs::remove(Own + "Help/day.png");
-    fs::last_write_time(Own + "Help.htm", fs::file_time_type::clock::now() - std::chrono::hours(1));
     Ship("Help.htm", "newer manual");
+    // A package is made long before it is installed.
+    const auto longAgo = std::chrono::floor<std::chrono::hours>(fs::file_time_type::clock::now()) -
+                         std::chrono::hours(1000);
+    fs::last_write_time(Shipped / "Help.htm", longAgo);
     Start();
+    EXPECT_EQ(fs::last_write_time(Own + "Help.htm"), longAgo) << "else it is copied at every start";
     EXPECT_EQ(Home.Content("share/kestrova/Help.htm"), "newer manual");
     EXPECT_TRUE(Has("Help/day.png"));
+}
+
+TEST_F(DataFolderTest, TheFolderOfTheProgramIsLeftAloneWhenItWasInstalled) {
+    // Writable, as it is for root; but then a program that was not installed keeps its data there.
+    EXPECT_EQ(DataFolderOf(Shipped.Path(), Own), Shipped.Path());
+    EXPECT_FALSE(Has(""));
+
+    Ship("libexec/kestrova/Kestrova", "program");
+    Ship("share/kestrova/shipped/Lan.dat", "installed languages");
+    EXPECT_EQ(DataFolderOf(Shipped / "libexec/kestrova/", Own), Own);
+    EXPECT_EQ(Home.Content("share/kestrova/Lan.dat"), "installed languages");
+    EXPECT_FALSE(Has("Kestrova"));
+}
+
+TEST_F(DataFolderTest, TheSessionStartsAnInstalledProgramByItsLink) {
+    const std::string program = Shipped / "libexec/kestrova/Kestrova";
+    Ship("libexec/kestrova/Kestrova", "program");
+    EXPECT_EQ(LauncherOf(program), program);
+    Ship("bin/kestrova", "somebody else's");
+    EXPECT_EQ(LauncherOf(program), program);
+    fs::remove(Shipped / "bin/kestrova");
+    fs::create_symlink("../libexec/kestrova/Kestrova", Shipped / "bin/kestrova");
+    EXPECT_EQ(LauncherOf(program), Shipped / "bin/kestrova");
 }
 
 } // namespace
