@@ -59,6 +59,7 @@ bool LayoutEditor::TextSelected() const {
 }
 
 void LayoutEditor::SpClear() {
+    LetGo();
     CommitText();
     selection_.clear();
     history_.EndRun();
@@ -72,6 +73,7 @@ void LayoutEditor::Select(const LayoutRef& ref) {
 }
 
 void LayoutEditor::Toggle(const LayoutRef& ref) {
+    LetGo();
     CommitText();
     history_.EndRun();
     if (std::erase(selection_, ref) == 0) {
@@ -91,6 +93,7 @@ void LayoutEditor::SelectAll() {
 }
 
 void LayoutEditor::SelectWithin(const PageBox& frame) {
+    LetGo();
     CommitText();
     history_.EndRun();
     EachItem(Page(), [&](const LayoutRef& ref) {
@@ -132,6 +135,7 @@ bool LayoutEditor::IsNow(const LayoutState& state) const {
 }
 
 void LayoutEditor::Step(StepKind kind, const std::function<void()>& change) {
+    LetGo();
     LayoutState before = Now();
     change();
     if (!IsNow(before)) {
@@ -147,13 +151,7 @@ void LayoutEditor::Prune() {
 }
 
 void LayoutEditor::BringBack(const LayoutState& state) {
-    if (desk_.Setup().Paper != state.Paper) {
-        desk_.SetPaper(state.Paper);
-    }
-    if (desk_.Setup().Turned != state.Turned) {
-        desk_.SetOrientation(state.Turned);
-    }
-    desk_.Restore(state.Page);
+    desk_.Restore(state.Page, state.Paper, state.Turned);
     Prune();
     Tell();
 }

@@ -141,6 +141,7 @@ private:
     void Step(StepKind kind, const std::function<void()>& change);
     void BringBack(const LayoutState& state);
     void Prune();
+    void LetGo();
     void Tell() const;
 
     PrintDesk& desk_;

@@ -129,10 +129,18 @@ void LayoutEditor::EndResize() {
 void LayoutEditor::BreakOff() {
     drag_.reset();
     if (resize_) {
-        desk_.Restore(std::move(resize_->Before.Page));
+        desk_.Restore(std::move(resize_->Before.Page), resize_->Before.Paper,
+                      resize_->Before.Turned);
         resize_.reset();
     }
     Tell();
+}
+
+// What is held would be another object once the selection is, or lie on a page of before.
+void LayoutEditor::LetGo() {
+    if (drag_ || resize_) {
+        BreakOff();
+    }
 }
 
 void LayoutEditor::Nudge(int across, int down) {

@@ -193,9 +193,17 @@ Status PrintDesk::Print() {
     if (printFault_) {
         return Done{};
     }
-    Status printed = PrintTo(rooms_.Paper());
-    printFault_ = !printed;
+    return Printed(PrintTo(rooms_.Paper()));
+}
+
+// A file that cannot be written says nothing about a printer.
+Status PrintDesk::Printed(Status printed) {
+    printFault_ = !printed && rooms_.Settings.PrintNumber1 == 0;
     return printed;
+}
+
+bool PrintDesk::ShowsMonthOfPage() const {
+    return open_ && rooms_.Dates.PageYear == year_ && rooms_.Dates.PageMonth == month_;
 }
 
 Status PrintDesk::PrintDiary() {
@@ -204,15 +212,20 @@ Status PrintDesk::PrintDiary() {
     const MonthSource month =
         SourceOf(dates.PageYear, dates.PageMonth, rooms_.Table(), dates.BaseYear);
     LayoutItem heading;
-    if (open_ && dates.PageYear == year_ && dates.PageMonth == month_) {
+    if (ShowsMonthOfPage()) {
         heading = page_.LabCurMth;
     } else {
         DoHeader(heading, month, rooms_.Measure);
     }
-    Status printed = PrintOn(rooms_.Paper(), open_ ? setup_ : FirstSetup(), dates.Page(),
-                             [&](PrintJob& job) { DoDiary(job, month, heading); });
-    printFault_ = !printed;
-    return printed;
+    return Printed(PrintOn(rooms_.Paper(), open_ ? setup_ : FirstSetup(), dates.Page(),
+                           [&](PrintJob& job) { DoDiary(job, month, heading); }));
+}
+
+Status PrintDesk::PrintDiaryAfresh() {
+    if (ShowsMonthOfPage()) {
+        WithoutChange([this] { DoHeader(page_.LabCurMth, Source(), rooms_.Measure); });
+    }
+    return PrintDiary();
 }
 
 void PrintDesk::SetOrientation(Orientation turned) {
@@ -285,6 +298,7 @@ Status PrintDesk::Load(const std::string& path) {
     } else {
         reading.Trouble = bytes.Failure();
     }
+    ShowTexts();
     if (reading.ToTheEnd) {
         DoControls();
     }
@@ -294,6 +308,14 @@ Status PrintDesk::Load(const std::string& path) {
     }
     kept_ = page_;
     return reading.Trouble;
+}
+
+// What is printed is to be seen, whatever the file says, or it could not even be deleted.
+void PrintDesk::ShowTexts() {
+    EachItem(page_, [this](const LayoutRef& ref) {
+        LayoutItem& item = *page_.Find(ref);
+        item.Visible = item.Visible || (IsText(ref.Kind) && item.Enabled);
+    });
 }
 
 PrintDesk::Added PrintDesk::AddImage(const std::string& path) {

@@ -46,8 +46,9 @@ public:
     // and the page is gone.
     void Close();
 
-    // What the window does each time it is activated: it forgets the layout file's name and puts
-    // the background's box inside the margins.
+    // What the window does each time the main window opens it: it forgets the layout file's name
+    // and puts the background's box inside the margins. (Not each time it comes to the front again:
+    // after a file dialog the name would be gone, and the box that the user has moved.)
     void Activate();
 
     // Lays the page out for the paper as it is set. Nothing while PrintFault is set.
@@ -65,9 +66,12 @@ public:
     void DrawPage(DrawingSurface& output) const;
 
     // Prints the page, or the diary of the month on show. Success at once while PrintFault is set
-    // (Print only); PrintDiary clears it first. A failure sets it.
+    // (Print only); PrintDiary clears it first. A failure sets it, unless a file has the printer's
+    // place. The diary is headed as the page that is open for that month, or afresh, which the page
+    // then shares.
     [[nodiscard]] Status Print();
     [[nodiscard]] Status PrintDiary();
+    [[nodiscard]] Status PrintDiaryAfresh();
     [[nodiscard]] bool PrintFault() const { return printFault_; }
 
     // Prints the page on a printer other than the chosen one ("Save as PDF"), fault or not.
@@ -93,8 +97,12 @@ public:
     // page that does not (another paper, the window's activation) is no change of the user's.
     [[nodiscard]] bool IsChanged() const;
 
-    // Puts a page back as it was (undo); the set-up of the printer is not touched.
-    void Restore(PageLayout page) { page_ = std::move(page); }
+    // Puts a page back as it was (undo), on the paper that it was laid out for.
+    void Restore(PageLayout page, int paper, Orientation turned) {
+        page_ = std::move(page);
+        setup_.Paper = paper;
+        setup_.Turned = turned;
+    }
 
     // A picture of the user's: read, added at the top left with its proportions, at most 2000 twips
     // high and then at most 5000 wide. The reference of the new object comes back even when the
@@ -121,7 +129,10 @@ private:
     [[nodiscard]] PrinterSetup FirstSetup() const;
     void BeginPage();
     void TakeMonthPicture();
+    void ShowTexts();
     void LayOut();
+    [[nodiscard]] Status Printed(Status printed);
+    [[nodiscard]] bool ShowsMonthOfPage() const;
     [[nodiscard]] Status KeepDamagedFile();
     [[nodiscard]] Status PrintOn(Printer& printer, const PrinterSetup& setup,
                                  const CalendarDate& month,

@@ -429,5 +429,38 @@ TEST_F(LayoutEditorTest, WhoShowsThePageIsTold) {
     EXPECT_GT(told_, 0);
 }
 
+// A key may come in the middle of what the mouse does.
+TEST_F(LayoutEditorTest, WhateverComesWhileAHandleIsHeldLetsItGo) {
+    const std::function<void()> deeds[] = {
+        [this] { editor_.Delete(); }, [this] { editor_.SelectAll(); },
+        [this] { editor_.SpClear(); }, [this] { editor_.AddText(); }, [this] { editor_.Undo(); }};
+    for (const auto& deed : deeds) {
+        const LayoutRef ref = AddPicture(300, 300);
+        const PageBox box = BoxOf(Item(ref));
+        const PageBox ground = BoxOf(Item({Image1, 0}));
+        editor_.GrabHandle(7, 1300, 800);
+        editor_.ResizeTo(1500, 900, Proportions::Free);
+        deed();
+        editor_.ResizeTo(2000, 1200, Proportions::Free);
+        editor_.EndResize();
+        if (const LayoutItem* const item = desk_.Page().Find(ref)) {
+            EXPECT_EQ(BoxOf(*item), box);
+        }
+        EXPECT_EQ(BoxOf(Item({Image1, 0})), ground);
+        editor_.SpClear();
+    }
+}
+
+TEST_F(LayoutEditorTest, PaperIsUndoneWithoutAPrinterToo) {
+    const PageLayout before = desk_.Page();
+    editor_.SetOrientation(Orientation::Landscape);
+    printer_.Outcome = Error{ErrorCode::Failed, "gone"};
+    EXPECT_FALSE(desk_.Print());
+    EXPECT_TRUE(desk_.PrintFault());
+    editor_.Undo();
+    EXPECT_EQ(desk_.Setup().Turned, Orientation::Portrait);
+    EXPECT_EQ(desk_.Page(), before);
+}
+
 } // namespace
 } // namespace kestrova

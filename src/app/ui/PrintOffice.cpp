@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ui/PrintOffice.h"
 
+#include "language/ProgramTexts.h"
 #include "language/Texts.h"
 #include "media/ui/BusyCursor.h"
 
@@ -38,6 +39,9 @@ Printer& PrintOffice::Chosen() {
 // A file in the printer's place is asked for before each document. False when the user thinks
 // better of it.
 bool PrintOffice::AskTarget() {
+    if (printing_) {
+        return false; // one document at a time
+    }
     if (!PrintsToPdf()) {
         return true;
     }
@@ -49,6 +53,9 @@ bool PrintOffice::AskTarget() {
 }
 
 void PrintOffice::MNU_Preview_Click() {
+    if (printing_) {
+        return;
+    }
     if (!preview_) {
         preview_ = std::make_unique<Preview>(
             Preview::Rooms{desk_, rooms_.Texts, rooms_.Settings, rooms_.Boxes, rooms_.DataFolder,
@@ -64,18 +71,20 @@ void PrintOffice::MNU_Preview_Click() {
 }
 
 void PrintOffice::MNU_PrDiary_Click() {
-    if (printing_ || !AskTarget()) {
+    if ((preview_ && preview_->IsBusy()) || !AskTarget()) {
         return;
     }
     const QScopedValueRollback<bool> guard(printing_, true);
     Status printed = Done{};
     {
         const BusyCursor cursor;
-        printed = desk_.PrintDiary();
+        printed = desk_.PrintDiaryAfresh();
     }
     if (!printed) {
-        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle),
-                           rooms_.Texts.Text(texts::kNoPrinter), DialogIcon::Critical});
+        const std::string text =
+            PrintsToPdf() ? TextOf(rooms_.Texts, ProgramText::PdfNotSaved, printed.Failure().Text)
+                          : rooms_.Texts.Text(texts::kNoPrinter);
+        rooms_.Boxes.Show({rooms_.Texts.Text(texts::kProgramTitle), text, DialogIcon::Critical});
     }
 }
 
@@ -84,8 +93,8 @@ void PrintOffice::MNU_Pdf_Click(bool on) {
     keepChoices_();
 }
 
-bool PrintOffice::LeavePage() {
-    return !preview_ || !preview_->isVisible() || preview_->LeavePage();
+bool PrintOffice::Close() {
+    return !printing_ && (!preview_ || !preview_->isVisible() || preview_->TryLeave());
 }
 
 void PrintOffice::LoadCaptions() {

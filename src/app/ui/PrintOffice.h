@@ -38,8 +38,9 @@ public:
     void MNU_PrDiary_Click();
     void MNU_Pdf_Click(bool on);
 
-    // The program is to end: whether a page that has been changed may be left.
-    [[nodiscard]] bool LeavePage();
+    // The program is to end: closes the layout. False when its user has something to finish first,
+    // or something is on its way to a printer.
+    [[nodiscard]] bool Close();
 
     void LoadCaptions();
 

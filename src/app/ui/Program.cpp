@@ -106,7 +106,7 @@ void Program::End() {
 }
 
 bool Program::Quit() {
-    const bool leaves = print_.LeavePage();
+    const bool leaves = print_.Close();
     if (leaves) {
         End();
     }

@@ -32,6 +32,7 @@ void PdfJob::NewPage() {
     if (page_ == 0) {
         painter_.begin(&writer_);
         painter_.translate(kPaperEdge, kPaperEdge);
+        painter_.setClipRect(0, 0, area_.Width, area_.Height); // no printer reaches further
         surface_.emplace(painter_, measure_, area_, colours_);
     } else {
         writer_.newPage();

@@ -12,8 +12,8 @@ class PdfPrinter : public Printer {
 public:
     explicit PdfPrinter(FileStore& files) : files_(files) {}
 
-    // The file of the documents that are begun from now on, which may exist: it stands as it was
-    // until the new one is whole.
+    // The file of the document that is begun next, which may exist: it stands as it was until the
+    // new one is whole. One document only: nobody has agreed to lose it to another.
     void SetTarget(std::string path) { target_ = std::move(path); }
 
     // Success, always.

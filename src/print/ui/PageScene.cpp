@@ -29,9 +29,9 @@ QRectF RectOf(const PageBox& box) {
 // The page as it is printed, of one piece.
 class PageScene::PrintedItem : public QGraphicsItem {
 public:
-    PrintedItem(const PaperMeasure& measure, const PageSize& surface,
+    PrintedItem(const PaperMeasure& measure, const PageSize& surface, PrintColour colours,
                 std::function<void(DrawingSurface&)> draw)
-        : measure_(measure), surface_(surface), draw_(std::move(draw)) {
+        : measure_(measure), surface_(surface), colours_(colours), draw_(std::move(draw)) {
         setAcceptedMouseButtons(Qt::NoButton);
     }
 
@@ -42,13 +42,14 @@ public:
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
                QWidget* /*widget*/) override {
         painter->setClipRect(boundingRect()); // what lies beyond is not printed
-        PainterSurface surface(*painter, measure_, surface_);
+        PainterSurface surface(*painter, measure_, surface_, colours_);
         draw_(surface);
     }
 
 private:
     const PaperMeasure& measure_;
     PageSize surface_;
+    PrintColour colours_;
     std::function<void(DrawingSurface&)> draw_;
 };
 
@@ -144,10 +145,11 @@ void PageScene::SetFrame(const QRectF& frame) {
     marker_->Draw(frame);
 }
 
-void PageScene::ShowPrinted(std::function<void(DrawingSurface&)> draw) {
+void PageScene::ShowPrinted(std::function<void(DrawingSurface&)> draw, PrintColour colours) {
     printed_.reset();
     if (draw) {
-        printed_ = std::make_unique<PrintedItem>(measure_, editor_.Page().Surface, std::move(draw));
+        printed_ = std::make_unique<PrintedItem>(measure_, editor_.Page().Surface, colours,
+                                                 std::move(draw));
         printed_->setZValue(kPrinted);
         addItem(printed_.get());
     }

@@ -26,7 +26,8 @@ public:
     void Update();
 
     // Shows the page as `draw` draws it, or, without one, its objects.
-    void ShowPrinted(std::function<void(DrawingSurface&)> draw);
+    void ShowPrinted(std::function<void(DrawingSurface&)> draw,
+                     PrintColour colours = PrintColour::Colour);
     [[nodiscard]] bool IsPrinted() const { return printed_ != nullptr; }
 
     // Lets what is being dragged follow the mouse.

@@ -37,7 +37,7 @@ void Preview::OpenMonth() {
         opened = rooms_.Desk.Open();
     }
     if (!opened) {
-        hide();
+        Leave();
         ShowAll();
         ShowNoPrinter();
         return;
@@ -59,9 +59,15 @@ void Preview::Leave() {
 
 void Preview::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!busy_ && LeavePage()) {
-        Leave();
+    (void)TryLeave(); // it stays open when it cannot
+}
+
+bool Preview::TryLeave() {
+    if (busy_ || !LeavePage()) {
+        return false;
     }
+    Leave();
+    return true;
 }
 
 void Preview::changeEvent(QEvent* event) {
@@ -78,6 +84,17 @@ void Preview::ShowAll() {
     ShowEntries();
     ShowChecks();
     Picture1->setAccessibleDescription(NameOfSelected());
+    if (shownSurface_ != editor_.Page().Surface) { // undone, perhaps
+        shownSurface_ = editor_.Page().Surface;
+        FitSurface();
+    }
+}
+
+void Preview::FitSurface() {
+    if (Picture1->IsFitted()) {
+        Picture1->FitPage();
+    }
+    frame_->ScrolSetup();
 }
 
 // What a user hears who cannot see the page.
@@ -102,15 +119,13 @@ void Preview::NewSurface() {
         EnterView(true);
     }
     ShowAll();
-    if (Picture1->IsFitted()) {
-        Picture1->FitPage();
-    }
-    frame_->ScrolSetup();
+    FitSurface();
 }
 
 void Preview::EnterView(bool printed) {
     scene_->ShowPrinted(printed ? [this](DrawingSurface& output) { rooms_.Desk.DrawPage(output); }
-                                : std::function<void(DrawingSurface&)>());
+                                : std::function<void(DrawingSurface&)>(),
+                        rooms_.Desk.Setup().Colours);
     for (const char* const name : {"MNU_Edit", "MNU_View"}) {
         menus_.at(QLatin1String(name))->setEnabled(!printed);
     }

@@ -55,6 +55,12 @@ public:
     // user wants to go on with it, or it could not be saved.
     [[nodiscard]] bool LeavePage();
 
+    // The same, and closes the window. False also while something is on its way to the printer.
+    [[nodiscard]] bool TryLeave();
+
+    // Whether something is under way that must not be disturbed.
+    [[nodiscard]] bool IsBusy() const { return busy_; }
+
     // Puts the texts of the string table into the window and its menus.
     void LoadCaptions();
 
@@ -91,6 +97,7 @@ private:
     void ShowTextEdit();
     void PlaceTextEdit();
     void NewSurface();
+    void FitSurface();
     void EnterView(bool printed);
     void Leave();
 
@@ -132,7 +139,8 @@ private:
     TextBox* TextEdit = nullptr;
     std::optional<LayoutRef> inTextEdit_;
     bool layoutTitle_ = false; // the view has been changed back from that of the print
-    bool busy_ = false;        // something is under way that events go on beside
+    PageSize shownSurface_;
+    bool busy_ = false; // something is under way that events go on beside
 
     std::map<QString, QAction*> entries_;
     std::map<QString, QMenu*> menus_;

@@ -103,7 +103,8 @@ void Preview::MNU_SavePdf_Click() {
 
 void Preview::Print(Status (PrintDesk::*what)()) {
     editor_.CommitText();
-    if (!rooms_.Desk.PrintFault() && !hooks_.ReadyToPrint()) {
+    const bool prints = what == &PrintDesk::PrintDiary || !rooms_.Desk.PrintFault();
+    if (!prints || !hooks_.ReadyToPrint()) {
         return;
     }
     Status printed = Done{};
@@ -112,7 +113,9 @@ void Preview::Print(Status (PrintDesk::*what)()) {
         printed = (rooms_.Desk.*what)();
     }
     ShowAll();
-    if (!printed) {
+    if (!printed && rooms_.Settings.PrintNumber1 != 0) {
+        Tell(TextOf(rooms_.Texts, ProgramText::PdfNotSaved, ReasonOf(printed.Failure())));
+    } else if (!printed) {
         ShowNoPrinter();
     }
 }
@@ -156,10 +159,12 @@ void Preview::MNU_Qul_Click(int index) {
 
 void Preview::MNU_Color_Click() {
     rooms_.Desk.SetColours(PrintColour::Colour);
+    EnterView(IsPrintView());
 }
 
 void Preview::MNU_BW_Click() {
     rooms_.Desk.SetColours(PrintColour::Monochrome);
+    EnterView(IsPrintView());
 }
 
 void Preview::MNU_Text_Click() {
