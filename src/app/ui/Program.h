@@ -6,6 +6,7 @@
 #include "app/ui/FormCal.h"
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
+#include "exchange/ExchangeDialogs.h"
 #include "language/ProgramTexts.h"
 #include "language/ui/LanEditor.h"
 #include "mail/ui/MailDesk.h"
@@ -15,6 +16,7 @@
 #include "platform/InstanceLink.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
+#include "platform/qt/CalendarModule.h"
 #include "platform/qt/MailModule.h"
 #include "platform/qt/MediaModule.h"
 #include "platform/qt/QtBeeper.h"
@@ -159,6 +161,7 @@ private:
     MailDesk mail_;
     MediaModule mediaDevices_;
     SpeechModule voices_;
+    CalendarModule calendarFiles_;
     DesktopStage stage_;
 
     Selection dates_;
@@ -178,6 +181,8 @@ private:
     FolderProbe probe_;
     DiaryStore store_;
     SharedDiaries shared_;
+    CalendarExchange exchange_;
+    ExchangeDialogs exchangeDialogs_;
     YearTurn yearTurn_;
     EventEditor editor_;
     ReminderReview review_;

@@ -40,11 +40,13 @@ struct PageScene : DiaryScene {
     int Changes = 0;
     std::vector<std::string> Spoken;
     std::string PicturesAsked; // M and D
+    std::string Exchanges;     // E and I
     Diary Window{nullptr,
                  {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
                  {[this] { ++Changes; },
                   [this](const std::string& text) { Spoken.push_back(text); },
-                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; }}};
+                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; },
+                  [this] { Exchanges += 'E'; }, [this] { Exchanges += 'I'; }}};
 
     PageScene() {
         Window.OpenPage();
