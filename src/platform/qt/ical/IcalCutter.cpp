@@ -192,7 +192,7 @@ private:
         Append(line);
     }
 
-    void Append(const std::string& line) { block_->Text.append(line).append(kLineEnd); }
+    void Append(const std::string& line) { block_->Lines.push_back(line); }
 
     CutCalendar cut_;
     IcalBlock* block_ = nullptr; // being cut

@@ -13,7 +13,7 @@ namespace kestrova {
 // One event or time zone of a calendar file, cut out of it: the lines that matter here, unfolded
 // and in UTF-8, as a text of its own for the library.
 struct IcalBlock {
-    std::string Text;
+    std::vector<std::string> Lines;
     std::map<std::string, int> TimeLines; // how many lines say when it takes place, by their names
     bool Damaged = false;                 // a line that matters is no line of such a file
 };

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace kestrova {
 
@@ -14,12 +15,17 @@ struct IcalFree {
     void operator()(icalcomponent* component) const { icalcomponent_free(component); }
     void operator()(icalrecur_iterator* iterator) const { icalrecur_iterator_free(iterator); }
     void operator()(icaltimezone* zone) const { icaltimezone_free(zone, 1); }
+    void operator()(icalparser* parser) const { icalparser_free(parser); }
     void operator()(char* text) const { icalmemory_free_buffer(text); }
 };
 using IcalComponent = std::unique_ptr<icalcomponent, IcalFree>;
 using IcalIterator = std::unique_ptr<icalrecur_iterator, IcalFree>;
 using IcalZone = std::unique_ptr<icaltimezone, IcalFree>;
+using IcalParser = std::unique_ptr<icalparser, IcalFree>;
 using IcalText = std::unique_ptr<char, IcalFree>;
+
+// The component that stands in unfolded lines; nothing when they are none.
+[[nodiscard]] IcalComponent ParseLines(const std::vector<std::string>& lines);
 
 // Calls visit(icalproperty&) for every property of a kind.
 template<typename Visit>

@@ -17,7 +17,7 @@ constexpr const char* kReplaces = "RECURRENCE-ID";
 // The component in a block. Nothing when the library has dropped a line that says when the event
 // takes place: without it, the event would take place at other times.
 IcalComponent ComponentOf(const IcalBlock& block) {
-    IcalComponent component(icalparser_parse_string(block.Text.c_str()));
+    IcalComponent component = ParseLines(block.Lines);
     if (block.Damaged || !component ||
         icalcomponent_isa(component.get()) != ICAL_VEVENT_COMPONENT) {
         return nullptr;
@@ -134,7 +134,7 @@ Result<ReadCalendar> IcalReader::Read(std::string_view bytes) {
         return cut.Failure();
     }
     for (const IcalBlock& zone : cut.Value().Zones) {
-        zones_.Add(zone.Text);
+        zones_.Add(zone.Lines);
     }
     for (const IcalBlock& event : cut.Value().Events) {
         CollectReplaced(event);

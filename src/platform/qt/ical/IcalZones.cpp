@@ -58,8 +58,8 @@ bool IsZoneName(const std::string& id) {
 
 } // namespace
 
-void IcalZones::Add(const std::string& text) {
-    IcalComponent component(icalparser_parse_string(text.c_str()));
+void IcalZones::Add(const std::vector<std::string>& lines) {
+    IcalComponent component = ParseLines(lines);
     if (!component || icalcomponent_isa(component.get()) != ICAL_VTIMEZONE_COMPONENT ||
         !IsSound(*component)) {
         return;

@@ -14,7 +14,7 @@ class IcalZones {
 public:
     // A zone that the file describes. One that is described in no way that a zone could be is left
     // out: following it might take for ever.
-    void Add(const std::string& text);
+    void Add(const std::vector<std::string>& lines);
 
     // The time of a property in the zone that it names: the one of the file, else the system's of
     // that name. In an unknown zone it is taken for a local one.
