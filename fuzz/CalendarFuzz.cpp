@@ -7,6 +7,7 @@
 #include "exchange/DiaryExport.h"
 #include "exchange/DiaryImport.h"
 #include "platform/qt/ical/IcalFormat.h"
+#include "text/Encoding.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -51,6 +52,7 @@ int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     }
     for (const kestrova::ExchangeEvent& event : read.Value().Events) {
         Expect(!event.Times.empty(), "an event has a time");
+        Expect(kestrova::IsUtf8(event.Summary) && kestrova::IsUtf8(event.Note), "texts are UTF-8");
         for (const kestrova::WallTime& time : event.Times) {
             Expect(time.Month >= 0 && time.Month < kestrova::kMonths && time.Day >= 1 &&
                        time.Day <= kestrova::NofDays(time.Year, time.Month) && time.Hour >= 0 &&

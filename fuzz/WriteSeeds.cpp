@@ -244,7 +244,7 @@ void WriteCalendars(const std::filesystem::path& root) {
                                      "BEGIN:VALARM\r\nACTION:AUDIO\r\nEND:VALARM\r\n"));
     seeds.Write("own",
                 CalendarWith("DTSTART:20260310T090000\r\nRRULE:FREQ=DAILY;UNTIL=20260313T090000\r\n"
-                             "DESCRIPTION:one\\ntwo\r\nX-KESTROVA-SUMMARY-EDGES:[ ][]\r\n"
+                             "DESCRIPTION:one\\ntwo\r\nX-KESTROVA-SUMMARY:[Tea%0C, with Ada ]\r\n"
                              "X-KESTROVA-REPEAT:[monthly-2-2]\r\nX-KESTROVA-REMINDER:[=x]\r\n"
                              "X-KESTROVA-DETAIL-1:[5]\r\nX-KESTROVA-HIDDEN:[1]\r\n"
                              "X-KESTROVA-PLACE:[1]\r\n"));

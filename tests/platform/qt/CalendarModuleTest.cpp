@@ -313,9 +313,9 @@ private:
     int Number(int below) { return std::uniform_int_distribution<int>(0, below - 1)(random_); }
 
     std::string Text(int longest, const char* more) {
-        const std::string letters[] = {"a",  " ", ",",  ";",        "\\",
-                                       "\"", ":", "n",  "\xC3\xA9", "\xF0\x9F\x98\x80",
-                                       "[",  "]", "\t", "=",        more};
+        const std::string letters[] = {
+            "a", " ", ",",  ";", "\\", "\"", ":", "n", "\xC3\xA9", "\xF0\x9F\x98\x80",
+            "[", "]", "\t", "=", "%",  "\f", more};
         std::string text = "x";
         for (int i = Number(longest); i > 0; --i) {
             text += letters[static_cast<std::size_t>(Number(std::size(letters)))];

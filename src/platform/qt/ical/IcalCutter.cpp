@@ -60,6 +60,26 @@ std::optional<std::size_t> ValueAt(std::string_view line) {
     return std::nullopt;
 }
 
+// A line with a text in which each backslash has a meaning: for one that has none, the library
+// takes the byte behind it away, which may be a part of a letter.
+std::string WithSoundEscapes(std::string_view line, std::size_t valueAt) {
+    constexpr std::string_view kEscaped = "\\,;nN";
+    constexpr std::string_view kNeedless = ":\"";
+    std::string sound(line.substr(0, valueAt));
+    for (std::size_t i = valueAt; i < line.size(); ++i) {
+        const char next = i + 1 < line.size() ? line[i + 1] : '\0';
+        if (line[i] != '\\') {
+            sound += line[i];
+        } else if (next != '\0' && kEscaped.find(next) != std::string_view::npos) {
+            sound.append({line[i], next});
+            ++i;
+        } else if (next == '\0' || kNeedless.find(next) == std::string_view::npos) {
+            sound += "\\\\";
+        }
+    }
+    return sound;
+}
+
 // The folded lines of a file as those they were before.
 class UnfoldedLines {
 public:
@@ -189,7 +209,7 @@ private:
         if (part_ == Part::Event && kTimeNames.contains(name)) {
             ++block_->TimeLines[name];
         }
-        Append(line);
+        Append(text ? WithSoundEscapes(line, *value) : line);
     }
 
     void Append(const std::string& line) { block_->Lines.push_back(line); }

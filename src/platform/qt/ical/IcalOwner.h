@@ -39,4 +39,8 @@ void EachProperty(icalcomponent& component, icalproperty_kind kind, Visit visit)
 // The names of the properties that other programs pass over, before the names of `Own`.
 inline constexpr const char* kOwnPrefix = "X-KESTROVA-";
 
+// And among them the texts that others do not keep as they are.
+inline constexpr const char* kOwnSummary = "SUMMARY";
+inline constexpr const char* kOwnNote = "NOTE";
+
 } // namespace kestrova

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/ical/IcalReader.h"
 
-#include "platform/qt/ical/IcalEdges.h"
+#include "platform/qt/ical/IcalExact.h"
 #include "platform/qt/ical/IcalOwner.h"
 
 #include <cstring>
@@ -46,7 +46,7 @@ bool IsCancelled(icalcomponent& component) {
     return icalcomponent_get_status(&component) == ICAL_STATUS_CANCELLED;
 }
 
-// What only this program writes, and with it the blanks at the ends of its texts.
+// What only this program writes, and with it what its texts have lost on the way.
 void ReadOwn(icalcomponent& component, ExchangeEvent& event) {
     EachProperty(component, ICAL_X_PROPERTY, [&](icalproperty& property) {
         const char* const name = icalproperty_get_x_name(&property);
@@ -57,11 +57,12 @@ void ReadOwn(icalcomponent& component, ExchangeEvent& event) {
             return;
         }
         const std::string own = name + std::strlen(kOwnPrefix);
-        if (own == "SUMMARY-EDGES") {
-            event.Summary = WithEdges(event.Summary, value);
-        } else if (own == "NOTE-EDGES") {
-            event.Note = WithEdges(event.Note, value);
-        } else if (auto text = OutOfBrackets(value)) {
+        auto text = OutOfBrackets(value);
+        if (own == kOwnSummary) {
+            event.Summary = AsItWas(event.Summary, text);
+        } else if (own == kOwnNote) {
+            event.Note = AsItWas(event.Note, text);
+        } else if (text) {
             event.Own[own] = std::move(*text);
         }
     });

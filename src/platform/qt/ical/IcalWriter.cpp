@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/ical/IcalWriter.h"
 
-#include "platform/qt/ical/IcalEdges.h"
+#include "platform/qt/ical/IcalExact.h"
 #include "platform/qt/ical/IcalOwner.h"
 
 #include <array>
@@ -59,15 +59,14 @@ void Add(icalcomponent& component, icalproperty* property) {
 }
 
 void AddOwn(icalcomponent& component, const std::string& name, const std::string& value) {
-    icalproperty* const property = icalproperty_new_x(value.c_str());
+    icalproperty* const property = icalproperty_new_x(InBrackets(value).c_str());
     icalproperty_set_x_name(property, (kOwnPrefix + name).c_str());
     Add(component, property);
 }
 
-void AddEdges(icalcomponent& component, const std::string& name, const std::string& text) {
-    const std::string edges = EdgesOf(text);
-    if (!edges.empty()) {
-        AddOwn(component, name, edges);
+void AddExact(icalcomponent& component, const std::string& name, const std::string& text) {
+    if (!ComesBack(text)) {
+        AddOwn(component, name, text);
     }
 }
 
@@ -99,13 +98,13 @@ icalcomponent* ComponentOf(const ExchangeEvent& event, const icaltimetype& stamp
     Add(*component, icalproperty_new_dtstart(TimeOf(event.Times.front())));
     AddRule(*component, event);
     Add(*component, icalproperty_new_summary(event.Summary.c_str()));
-    AddEdges(*component, "SUMMARY-EDGES", event.Summary);
+    AddExact(*component, kOwnSummary, event.Summary);
     if (!event.Note.empty()) {
         Add(*component, icalproperty_new_description(event.Note.c_str()));
-        AddEdges(*component, "NOTE-EDGES", event.Note);
+        AddExact(*component, kOwnNote, event.Note);
     }
     for (const auto& [name, value] : event.Own) {
-        AddOwn(*component, name, InBrackets(value));
+        AddOwn(*component, name, value);
     }
     if (event.Alarm) {
         AddAlarm(*component, event);
