@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::size_t kMostEvents = 50'000;
 constexpr std::size_t kMostZones = 200;
-constexpr std::size_t kMostHead = 4096;       // bytes of a name and its parameters
-constexpr std::size_t kMostValue = 64 * 1024; // bytes of what is no text
+constexpr std::size_t kMostHead = 4096;    // bytes of a name and its parameters
+constexpr std::size_t kMostValue = 65'536; // bytes of what is no text
 constexpr int kMostOwnLines = 32;
 
 enum class Part { Outside, Calendar, Zone, ZoneRule, Event, Alarm };

@@ -77,7 +77,7 @@ bool ComesBack(std::string_view text) {
                             }));
 }
 
-std::string AsItWas(std::string text, const std::optional<std::string>& exact) {
+std::string AsItWas(const std::string& text, const std::optional<std::string>& exact) {
     return exact && Core(*exact) == Core(text) ? *exact : text;
 }
 

@@ -22,6 +22,6 @@ namespace kestrova {
 
 // The text as it was before it lost blanks and control characters: `exact`, unless somebody has
 // changed the text since.
-[[nodiscard]] std::string AsItWas(std::string text, const std::optional<std::string>& exact);
+[[nodiscard]] std::string AsItWas(const std::string& text, const std::optional<std::string>& exact);
 
 } // namespace kestrova
