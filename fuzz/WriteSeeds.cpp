@@ -224,6 +224,35 @@ void WriteModemLists(const std::filesystem::path& root) {
     seeds.Write("answer", "AT+FMM?\r\r\nBox\r\n\r\nOK\r\n");
 }
 
+// A calendar file with one event of these lines.
+std::string CalendarWith(const std::string& lines) {
+    return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VTIMEZONE\r\nTZID:Z\r\nBEGIN:STANDARD\r\n"
+           "DTSTART:19701101T020000\r\nTZOFFSETFROM:-0400\r\nTZOFFSETTO:-0500\r\n"
+           "RRULE:FREQ=YEARLY;BYMONTH=11;BYDAY=1SU\r\nEND:STANDARD\r\nEND:VTIMEZONE\r\n"
+           "BEGIN:VEVENT\r\nUID:1\r\nSUMMARY:Tea\\, with\r\n  Ada\r\n" +
+           lines + "END:VEVENT\r\nEND:VCALENDAR\r\n";
+}
+
+void WriteCalendars(const std::filesystem::path& root) {
+    const SeedFolder seeds(root, "Calendar");
+    seeds.Write("rule", CalendarWith("DTSTART;TZID=Z:20260310T090000\r\n"
+                                     "RRULE:FREQ=WEEKLY;INTERVAL=2;BYDAY=TU,WE;COUNT=9\r\n"
+                                     "EXDATE;TZID=Z:20260311T090000,20260324T090000\r\n"));
+    seeds.Write("month", CalendarWith("DTSTART:20260310T090000Z\r\nRRULE:FREQ=MONTHLY;BYDAY=2TU\r\n"
+                                      "RDATE;VALUE=PERIOD:20260501T100000Z/PT1H\r\n"));
+    seeds.Write("days", CalendarWith("DTSTART;VALUE=DATE:20251230\r\nDTEND;VALUE=DATE:20260105\r\n"
+                                     "RRULE:FREQ=YEARLY;UNTIL=20270101\r\nSTATUS:CONFIRMED\r\n"
+                                     "BEGIN:VALARM\r\nACTION:AUDIO\r\nEND:VALARM\r\n"));
+    seeds.Write("own",
+                CalendarWith("DTSTART:20260310T090000\r\nRRULE:FREQ=DAILY;UNTIL=20260313T090000\r\n"
+                             "DESCRIPTION:one\\ntwo\r\nX-KESTROVA-SUMMARY:[Tea%0C, with Ada ]\r\n"
+                             "X-KESTROVA-REPEAT:[monthly-2-2]\r\nX-KESTROVA-REMINDER:[=x]\r\n"
+                             "X-KESTROVA-DETAIL-1:[5]\r\nX-KESTROVA-HIDDEN:[1]\r\n"
+                             "X-KESTROVA-PLACE:[1]\r\n"));
+    seeds.Write("moved", CalendarWith("RECURRENCE-ID:20260310T090000\r\nDTSTART:20260311T090000\r\n"
+                                      "DURATION:PT1H\r\nEXRULE:FREQ=YEARLY\r\n"));
+}
+
 } // namespace
 
 void WriteSpeech(const std::filesystem::path& root) {
@@ -279,5 +308,6 @@ int main(int argc, char* argv[]) {
     WriteMetafiles(root);
     WriteSpeech(root);
     WriteLayouts(root);
+    WriteCalendars(root);
     return 0;
 }

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine.h"
 #include "app/ui/Program.h"
+#include "platform/qt/CalendarModule.h"
 #include "platform/qt/DataFolder.h"
 #include "platform/qt/QtInstanceLink.h"
 #include "platform/qt/QtText.h"
@@ -10,6 +12,27 @@
 #include <QIcon>
 
 #include <algorithm>
+#include <iostream>
+
+namespace {
+
+// Without a window, a display or a running instance.
+int Exchange(kestrova::ExchangeOrder order, int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("kestrova"));
+    if (!order.Path.empty()) {
+        order.Path =
+            kestrova::FromQt(QFileInfo(QFile::decodeName(order.Path.c_str())).absoluteFilePath());
+    }
+    kestrova::PosixFileStore files;
+    const kestrova::SystemClock clock;
+    kestrova::CalendarModule format(kestrova::CalendarModule::ShippedPath());
+    return kestrova::CommandLine(
+               {files, clock, format, kestrova::FindDataFolder(), std::cout, std::cerr})
+        .Run(order);
+}
+
+} // namespace
 
 namespace {
 
@@ -25,6 +48,9 @@ QIcon ProgramIcon() {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (const auto order = kestrova::ExchangeOrderOf({argv + 1, argv + std::max(argc, 1)})) {
+        return Exchange(*order, argc, argv);
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kestrova"));
     QApplication::setApplicationVersion(QStringLiteral(KESTROVA_VERSION));

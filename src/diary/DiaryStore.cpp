@@ -85,6 +85,14 @@ bool DiaryStore::TryShow(const std::string& folder) {
     return true;
 }
 
+Status DiaryStore::Load(const std::string& folder) {
+    const Status read = TryRead(folder, LockPatience::Moment);
+    if (read) {
+        folder_ = folder;
+    }
+    return read;
+}
+
 void DiaryStore::GetData(const std::string& folder, std::optional<int> baseYear) {
     suspect_.reset();
     if (baseYear && !probe_.IsOwn(folder) && probe_.Answers(folder)) {

@@ -8,6 +8,7 @@
 #include "platform/Dialogs.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -42,6 +43,12 @@ enum class NoteResult {
     Busy,       // someone holds the diary, or it cannot be written
     OutOfReach, // the folder of a shared diary does not answer, or the diary in it has gone
     Failed
+};
+
+// A diary and its notes as the disc has them at one moment.
+struct DiarySnapshot {
+    DiaryTable Table;
+    std::map<std::string, std::string> Notes; // the bytes of those that hold anything, by name
 };
 
 // The diary in memory and its file: owns the event table, the folder of the diary shown
@@ -86,6 +93,12 @@ public:
     // The same in silence and without waiting, if the diary can be loaded as it is. Whether it is
     // shown now. Not while a message is open.
     [[nodiscard]] bool TryShow(const std::string& folder);
+
+    // The same with patience, and with the reason when it cannot be.
+    Status Load(const std::string& folder);
+
+    // What the file and the notes of the diary shown hold now. Fails as opening and reading do.
+    Result<DiarySnapshot> Snapshot();
 
     // Applies an edit to the diary shown and saves it.
     ChangeResult Change(const Edit& edit, SaveMessages messages = SaveMessages::Show);

@@ -34,6 +34,26 @@ std::set<int> DiaryStore::SlotsWithNotes(const DayPlace& day) const {
     return slots;
 }
 
+Result<DiarySnapshot> DiaryStore::Snapshot() {
+    const auto opened = Open(folder_, LockKind::Shared);
+    if (!opened) {
+        return opened.Failure();
+    }
+    auto loaded = files_.Read(folder_);
+    if (!loaded) {
+        return loaded.Failure();
+    }
+    DiarySnapshot snapshot{std::move(loaded.Value().Table), {}};
+    for (const std::string& name : files_.NotesWithText(folder_, files_.NoteNames(folder_))) {
+        auto note = files_.ReadNote(folder_, name);
+        if (!note) {
+            return note.Failure();
+        }
+        snapshot.Notes.emplace(name, std::move(note.Value()));
+    }
+    return snapshot;
+}
+
 // Where the note stands on the disc now: notes go with the table in the file, which another program
 // may have changed since it was loaded.
 Result<std::optional<SlotPlace>> DiaryStore::PlaceNow(const FindPlace& find) {

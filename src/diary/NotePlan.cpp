@@ -63,6 +63,10 @@ void NotePlan::Put(const SlotPlace& at, std::string text) {
     planned_[GetFile(at)] = NoteText{std::move(text)};
 }
 
+void NotePlan::Put(const SlotPlace& at, std::shared_ptr<const std::string> text) {
+    planned_[GetFile(at)] = NoteText{std::move(text)};
+}
+
 std::map<std::string, NoteFate> NotePlan::Changes() const {
     std::map<std::string, NoteFate> changes;
     for (const auto& [name, fate] : planned_) {

@@ -25,6 +25,7 @@ struct NoteText {
     NoteText() = default;
     explicit NoteText(std::string text)
         : Text(std::make_shared<const std::string>(std::move(text))) {}
+    explicit NoteText(std::shared_ptr<const std::string> text) : Text(std::move(text)) {}
 
     // This content, which all copies of the note share: a repeated event has hundreds.
     std::shared_ptr<const std::string> Text = std::make_shared<const std::string>();
@@ -52,6 +53,7 @@ public:
 
     // A note with this text.
     void Put(const SlotPlace& at, std::string text);
+    void Put(const SlotPlace& at, std::shared_ptr<const std::string> text);
 
     [[nodiscard]] bool Has(const SlotPlace& at) const;
 

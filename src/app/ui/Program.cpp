@@ -33,8 +33,8 @@ Program::Program(Orders orders, InstanceLink& link)
       mail_({mailModule_, mailModule_, files_, clock_, loop_, dialogs_, texts_},
             dataFolder_ + "Mail.dat", [this](const std::string& text) { Tell(text); }),
       mediaDevices_(MediaModule::ShippedPath(), std::move(orders.CdDevice)),
-      voices_(SpeechModule::ShippedPath()), stage_(voices_), texts_(MsgDefaults()),
-      settings_(FirstSettings(texts_)),
+      voices_(SpeechModule::ShippedPath()), calendarFiles_(CalendarModule::ShippedPath()),
+      stage_(voices_), texts_(MsgDefaults()), settings_(FirstSettings(texts_)),
       speech_({voices_, mediaDevices_, stage_, loop_, clock_, files_, dialogs_, shell_, texts_,
                settings_, dataFolder_, std::string(kWebAddress)}),
       media_({mediaDevices_, files_, beeper_, texts_, settings_},
@@ -46,6 +46,8 @@ Program::Program(Orders orders, InstanceLink& link)
       diaryFiles_(files_, clock_), probe_(dataFolder_, FolderAnswers),
       store_(diaryFiles_, dialogs_, texts_, probe_, [this] { End(); }),
       shared_({files_, clock_, diaryFiles_, texts_, probe_}),
+      exchange_({files_, store_, calendarFiles_, clock_, texts_}),
+      exchangeDialogs_({exchange_, dialogs_, texts_, dates_}),
       yearTurn_({store_, settingsStore_, settings_, dates_, dialogs_, texts_, dataFolder_}),
       editor_({store_, dates_, texts_, settings_, dialogs_, *this}),
       review_({store_, dates_, texts_, settings_, speech_, phone_, mail_.Reminders(), media_, loop_,
@@ -370,7 +372,8 @@ void Program::OpenDiary(int day) {
             Diary::Hooks{
                 [this] { formCal_.Redraw(FormCal::kSameMonth); },
                 [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); },
-                [this] { ChPic({}); }, [this] { ChPic(dates_.PageDay); }});
+                [this] { ChPic({}); }, [this] { ChPic(dates_.PageDay); },
+                [this] { exchangeDialogs_.Export(); }, [this] { exchangeDialogs_.Import(); }});
     }
     diary_->OpenPage();
 }

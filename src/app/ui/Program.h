@@ -7,6 +7,7 @@
 #include "app/ui/PrintOffice.h"
 #include "diary/ui/Diary.h"
 #include "diary/ui/ScreenReminder.h"
+#include "exchange/ExchangeDialogs.h"
 #include "language/ProgramTexts.h"
 #include "language/ui/LanEditor.h"
 #include "mail/ui/MailDesk.h"
@@ -16,6 +17,7 @@
 #include "platform/InstanceLink.h"
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
+#include "platform/qt/CalendarModule.h"
 #include "platform/qt/MailModule.h"
 #include "platform/qt/MediaModule.h"
 #include "platform/qt/QtBeeper.h"
@@ -162,6 +164,7 @@ private:
     MailDesk mail_;
     MediaModule mediaDevices_;
     SpeechModule voices_;
+    CalendarModule calendarFiles_;
     DesktopStage stage_;
 
     Selection dates_;
@@ -181,6 +184,8 @@ private:
     FolderProbe probe_;
     DiaryStore store_;
     SharedDiaries shared_;
+    CalendarExchange exchange_;
+    ExchangeDialogs exchangeDialogs_;
     YearTurn yearTurn_;
     EventEditor editor_;
     ReminderReview review_;

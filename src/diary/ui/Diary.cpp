@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace kestrova {
 
@@ -51,8 +52,11 @@ void Diary::LoadCaptions() {
     MNU_Undo->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuUndo)));
     MNU_New->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuAddNetUser)));
     MNU_Remove->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuRemoveNetUser)));
-    findChild<QAction*>(QStringLiteral("MNU_Exit"))
-        ->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuCloseDay)));
+    for (const auto& [name, text] : {std::pair("MNU_Export", ProgramText::MenuExport),
+                                     std::pair("MNU_Import", ProgramText::MenuImport),
+                                     std::pair("MNU_Exit", ProgramText::MenuCloseDay)}) {
+        findChild<QAction*>(QLatin1String(name))->setText(ToQt(TextOf(rooms_.Texts, text)));
+    }
     ShowDiaries();
     if (edit_ != nullptr) {
         edit_->LoadCaptions();
@@ -171,6 +175,20 @@ void Diary::MNU_DelAll_Click() {
 
 void Diary::MNU_Undo_Click() {
     if (!IsEditing() && rooms_.Editor.Undo() == AcceptResult::Accepted) {
+        DrawMainPage();
+        hooks_.Changed();
+    }
+}
+
+void Diary::MNU_Export_Click() {
+    if (EndsEdit()) {
+        hooks_.Export();
+    }
+}
+
+void Diary::MNU_Import_Click() {
+    if (EndsEdit()) {
+        hooks_.Import();
         DrawMainPage();
         hooks_.Changed();
     }

@@ -46,6 +46,8 @@ public:
         std::function<void(const std::string& text)> Speak; // reads a note aloud
         std::function<void()> ChangeMonthPicture;           // the user is to choose another one
         std::function<void()> ChangeDayPicture;             // for the page date
+        std::function<void()> Export; // the diary shown is to go into a calendar file
+        std::function<void()> Import; // events of such a file are to come into it
     };
 
     Diary(QWidget* parent, const Rooms& rooms, Hooks hooks);
@@ -116,6 +118,8 @@ private:
     void MNU_Delete_Click();
     void MNU_DelAll_Click();
     void MNU_Undo_Click();
+    void MNU_Export_Click();
+    void MNU_Import_Click();
 
     [[nodiscard]] bool FillDiaries();
     void ShowDiaries();

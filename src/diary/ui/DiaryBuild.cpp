@@ -212,6 +212,9 @@ void Diary::BuildMenus() {
     MNU_Undo = entry("MNU_Undo", &Diary::MNU_Undo_Click);
     MNU_Undo->setShortcut(QKeySequence::Undo);
     MNU_File->addSeparator();
+    entry("MNU_Export", &Diary::MNU_Export_Click);
+    entry("MNU_Import", &Diary::MNU_Import_Click);
+    MNU_File->addSeparator();
     MNU_New = entry("MNU_New", &Diary::MNU_New_Click);
     MNU_Remove = entry("MNU_Remove", &Diary::MNU_Remove_Click);
     MNU_File->addSeparator();

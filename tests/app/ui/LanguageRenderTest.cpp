@@ -178,7 +178,7 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     Diary page(nullptr,
                {all.Dates, all.Texts, all.Settings, all.Store, all.Shared, all.Editor, all.Clock,
                 all.Boxes},
-               {[] {}, [](const std::string&) {}, [] {}, [] {}});
+               {[] {}, [](const std::string&) {}, [] {}, [] {}, [] {}, [] {}});
     page.OpenPage();
     ExpectNothingIsCut(page);
     QTest::mouseClick(page.findChild<QLabel*>(QStringLiteral("LabEvent(2)")), Qt::LeftButton);

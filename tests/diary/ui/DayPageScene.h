@@ -44,11 +44,13 @@ struct DayPageScene : DiaryScene {
     int Changes = 0;
     std::vector<std::string> Spoken;
     std::string PicturesAsked; // M and D
+    std::string Exchanges;     // E and I
     Diary Window{nullptr,
                  {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
                  {[this] { ++Changes; },
                   [this](const std::string& text) { Spoken.push_back(text); },
-                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; }}};
+                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; },
+                  [this] { Exchanges += 'E'; }, [this] { Exchanges += 'I'; }}};
 
     DayPageScene() {
         Window.OpenPage();

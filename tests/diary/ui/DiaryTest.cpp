@@ -186,6 +186,22 @@ TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
     EXPECT_EQ(page.Text("LabEvent(1)"), "");
 }
 
+// A row that is edited is not lost over a calendar file.
+TEST(DiaryWindowTest, CalendarFilesWaitForTheEditToEnd) {
+    PageScene page;
+    page.Add("9", "tea");
+    page.Find<QAction>("MNU_Export")->trigger();
+    page.Click("LabEvent(1)");
+    page.Find<QLineEdit>("TextMsg")->setText(QStringLiteral("tea with ada"));
+    page.Find<QAction>("MNU_Import")->trigger(); // goes on editing
+    EXPECT_TRUE(page.Window.IsEditing());
+    page.Boxes.Answers = {true};
+    page.Find<QAction>("MNU_Import")->trigger();
+    EXPECT_FALSE(page.Window.IsEditing());
+    EXPECT_EQ(Messages(page.OnFile(), kDay), "tea with ada");
+    EXPECT_EQ(page.Exchanges, "EI");
+}
+
 TEST(DiaryWindowTest, AClickElsewhereGoesThereUnlessSomethingWasTyped) {
     DayPageScene page;
     page.Add("10", "ten");
