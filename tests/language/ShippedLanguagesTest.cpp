@@ -93,7 +93,7 @@ TEST(ShippedLanguagesTest, ItemsOfAListAndAccessKeysOfAMenuDiffer) {
         {MenuGameStart, MenuGameJigSaw, MenuGameSize, MenuGamePicture, MenuGameQuit},
         {MenuFullScreen, MenuRepeatMode, MenuSettings, MenuExit},
         {MenuManual, MenuAbout},
-        {MenuNewEvent, MenuDelete, MenuDeleteAll, MenuUndo, MenuAddNetUser, MenuRemoveNetUser,
+        {MenuNewEvent, MenuSearch, MenuDelete, MenuDeleteAll, MenuUndo, MenuAddNetUser, MenuRemoveNetUser,
          MenuCloseDay}};
     for (const StringTable& table : Tables()) {
         EXPECT_EQ(SharedItemText(table), std::nullopt);

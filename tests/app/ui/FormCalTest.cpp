@@ -50,6 +50,7 @@ struct MonthScene : DiaryScene {
     RecordingShell Desktop;
     PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     std::vector<int> Opened;
+    int Searches = 0;
     int SettingsOpened = 0;
     int SettingsSaved = 0;
     int FirstDrawn = 0;
@@ -57,14 +58,14 @@ struct MonthScene : DiaryScene {
     int PicturesAsked = 0;
     int PicturesSaved = 0;
     int Quits = 0;
-    FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
-                    Desktop, Clock, Pieces, Files},
-                   {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
-                    [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; }, [] {}, [](int) {},
-                    [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
-                    [this](int minutes) { Countdown = minutes; }, [] {},
-                    [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {},
-                    [this] { ++Quits; }}};
+    FormCal Window{
+        {Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes, Desktop,
+         Clock, Pieces, Files},
+        {[this](int day) { Opened.push_back(day); }, [this] { ++Searches; },
+         [this] { ++SettingsOpened; }, [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; },
+         [] {}, [](int) {}, [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
+         [this](int minutes) { Countdown = minutes; }, [] {}, [this] { ++PicturesAsked; },
+         [this] { ++PicturesSaved; }, [] {}, [] {}, [this] { ++Quits; }}};
 
     void Show() {
         Window.LoadCaptions();

@@ -4,6 +4,7 @@
 #include "diary/DiaryScene.h"
 #include "diary/EditorScene.h"
 #include "diary/ui/Diary.h"
+#include "diary/ui/DiaryFinder.h"
 #include "diary/ui/ScreenReminder.h"
 #include "diary/ui/SlimComboBox.h"
 #include "fakes/CountingBeeper.h"
@@ -156,8 +157,8 @@ TEST_P(LanguageRenderTest, TheMonth) {
     FormCal month({all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures,
                    all.Folder, all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock, all.Pieces,
                    all.Files},
-                  {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
-                   [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
+                  {[](int) {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
+                   [](int) {}, [] {}, [] {}, [] {}, [] {}, [] {}, [] {}});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);
@@ -178,7 +179,7 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     Diary page(nullptr,
                {all.Dates, all.Texts, all.Settings, all.Store, all.Shared, all.Editor, all.Clock,
                 all.Boxes},
-               {[] {}, [](const std::string&) {}, [] {}, [] {}});
+               {[] {}, [](const std::string&) {}, [] {}, [] {}, [] {}});
     page.OpenPage();
     ExpectNothingIsCut(page);
     QTest::mouseClick(page.findChild<QLabel*>(QStringLiteral("LabEvent(2)")), Qt::LeftButton);
@@ -188,9 +189,22 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     ASSERT_NE(note, nullptr);
     ExpectNothingIsCut(*note);
 
-    ScreenReminder reminder(all.Texts, [] {});
+    ScreenReminder reminder(all.Texts, {[] {}, [](int) {}});
     reminder.ShowLines({"09:00  x"});
-    ExpectNothingIsCut(reminder);
+    for (const int width : {reminder.width(), reminder.minimumWidth()}) {
+        reminder.resize(width, reminder.height());
+        ExpectNothingIsCut(reminder);
+    }
+
+    DiaryFinder finder(&page, {all.Dates, all.Texts, all.Store},
+                       {[](const DiarySearch::Event&) {},
+                        [](const auto&, const auto&, const auto&) { return NoteTexts(); }});
+    finder.Open(&page);
+    finder.resize(finder.minimumSize());
+    for (const char* const typed : {"", "x", "nowhere"}) {
+        finder.findChild<QLineEdit*>()->setText(QLatin1String(typed));
+        ExpectNothingIsCut(finder);
+    }
 }
 
 TEST_P(LanguageRenderTest, SettingsAndTheLanguageEditor) {

@@ -273,7 +273,7 @@ TEST(DiaryWindowTest, AnEventSavedInAnotherLanguageOpensWithTheFirstItems) {
 TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
     const StringTable texts = MsgDefaults();
     int cleared = 0;
-    ScreenReminder window(texts, [&] { ++cleared; });
+    ScreenReminder window(texts, {[&] { ++cleared; }, [](int) {}});
     window.ShowLines({"09:00    a", "09:01    b", "09:02    c"});
     ASSERT_TRUE(window.isVisible());
     auto* const clear = window.findChild<QPushButton*>(QStringLiteral("ComClear"));
