@@ -182,6 +182,7 @@ void DiaryFinder::Search(std::optional<DiarySearch::Event> stayOn) {
     auto words = DiarySearch::WordsOf(FromQt(TextFind->text()));
     auto events = search_->Find(words);
     found_->Show(search_, std::move(words), std::move(events));
+    Tell(); // only a list that is to be seen can be scrolled
     if (found_->rowCount() > 0) {
         const Selection& dates = rooms_.Dates;
         const auto stay = stayOn ? found_->RowOf(*stayOn) : std::nullopt;
@@ -190,7 +191,6 @@ void DiaryFinder::Search(std::optional<DiarySearch::Event> stayOn) {
         ListFound->setCurrentIndex(found_->index(row));
         ListFound->scrollTo(found_->index(row), QAbstractItemView::PositionAtCenter);
     }
-    Tell();
 }
 
 void DiaryFinder::Tell() {

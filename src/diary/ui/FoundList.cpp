@@ -37,10 +37,12 @@ ShownText InRoom(const ShownText& text, const QFontMetrics& metrics, int room) {
     }
     const auto [begin, length] = text.Found.front();
     const int seen = metrics.horizontalAdvance(text.Text.left(begin + length) + u'…');
-    const int cut = begin - kKept;
+    int cut = begin - kKept;
     if (seen <= room || cut <= 0) {
         return text;
     }
+    const auto blank = static_cast<int>(text.Text.indexOf(u' ', cut));
+    cut = blank >= 0 && blank < begin ? blank + 1 : cut;
     ShownText rest{u'…' + text.Text.mid(cut), {}};
     for (const auto& [at, size] : text.Found) {
         rest.Found.emplace_back(at - cut + 1, size);
@@ -175,8 +177,9 @@ void FoundRows::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QColor ink = option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
     const QColor ground = option.palette.color(selected ? QPalette::Highlight : QPalette::Base);
     const QColor soft = look::Between(ground, ink, 0.72);
-    const QColor mark =
-        selected ? look::Faded(ink, 0.3) : look::Faded(look::Accent(option.palette), 0.35);
+    const bool dark = ground.lightness() < ink.lightness();
+    const QColor mark = selected ? look::Faded(ink, 0.3)
+                                 : look::Faded(look::Accent(option.palette), dark ? 0.6 : 0.35);
     painter->save();
     painter->setFont(option.font);
     QRect line(option.rect.left() + kIndent, option.rect.top() + kPadding,

@@ -26,6 +26,7 @@ constexpr int kLineHeight = 255;
 constexpr int kButtonWidth = 1934;
 constexpr int kButtonHeight = 500;
 constexpr int kGap = 100; // between the buttons, and at the window's edge
+constexpr int kLeastSnooze = 1500;
 constexpr int kLeastWidth = 5400;
 
 // After how many minutes reminders can be had back, with the key of each in the menu.
@@ -150,7 +151,7 @@ void ScreenReminder::Redraw() {
     // "Clear Messages" has the middle, and what it leaves on its right is this one's.
     const int left = inner / 2 - 967 + kButtonWidth + kGap;
     const int room = inner - kGap / 2 - left;
-    const int wanted = Twips(ComSnooze->sizeHint().width());
+    const int wanted = std::max(kLeastSnooze, Twips(ComSnooze->sizeHint().width()) + 2 * kGap);
     ComSnooze->setGeometry(Pixels(left), Pixels(lines_ * kLineHeight + 600),
                            Pixels(std::min(wanted, room)), Pixels(kButtonHeight));
     LabRemind[0]->hide();

@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QFile>
+#include <QLocalSocket>
 #include <QVariantMap>
 
 #include <algorithm>
@@ -21,6 +22,7 @@ namespace kestrova {
 namespace {
 
 constexpr int kGoodBye = 300;        // milliseconds, for the last word
+constexpr int kGreeting = 3000;      // milliseconds for a bus to say a first word
 constexpr qsizetype kLongest = 1000; // characters: a bubble is no page
 
 QString Service() {
@@ -33,6 +35,36 @@ QString Path() {
 
 QDBusMessage Question(const QString& service, const char* method) {
     return QDBusMessage::createMethodCall(service, Path(), Service(), QLatin1String(method));
+}
+
+// Where the user's message bus listens; empty when there is none.
+QByteArray BusAddress() {
+    const QByteArray told = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const QByteArray socket = qgetenv("XDG_RUNTIME_DIR") + "/bus";
+    const bool usual = told.isEmpty() && QFile::exists(QFile::decodeName(socket));
+    return usual ? "unix:path=" + socket : told;
+}
+
+// Whether the bus greets who comes. The library waits for one that is dead for half a minute, and
+// the end of the program would wait with it. Where there is none, the library would start one.
+bool BusAnswers() {
+    QByteArray address = BusAddress();
+    address = address.split(';').first();
+    const bool hidden = address.startsWith("unix:abstract=");
+    if (!hidden && !address.startsWith("unix:path=")) {
+        return !address.isEmpty(); // some other kind of bus
+    }
+    address = address.mid(address.indexOf('=') + 1).split(',').first();
+    QLocalSocket socket;
+    socket.setSocketOptions(hidden ? QLocalSocket::AbstractNamespaceOption
+                                   : QLocalSocket::NoOptions);
+    socket.connectToServer(QFile::decodeName(QByteArray::fromPercentEncoding(address)));
+    if (!socket.waitForConnected(kGreeting)) {
+        return false;
+    }
+    // Asking how one may sign on: a nought, a line, and a line comes back.
+    socket.write(QByteArray("\0AUTH\r\n", 7));
+    return socket.waitForReadyRead(kGreeting);
 }
 
 // The text as the bus takes it: no NUL, and nothing else that no one can see.
@@ -58,19 +90,9 @@ struct DesktopNotifier::Link {
     }
 };
 
-std::string DesktopNotifier::SessionBus() {
-    const QByteArray told = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    if (!told.isEmpty()) {
-        return told.toStdString();
-    }
-    const QByteArray socket = qgetenv("XDG_RUNTIME_DIR") + "/bus";
-    return QFile::exists(QFile::decodeName(socket)) ? "unix:path=" + socket.toStdString()
-                                                    : std::string();
-}
-
-DesktopNotifier::DesktopNotifier(std::string bus, std::chrono::milliseconds answerLimit)
-    : bus_(ToQt(bus)), limit_(static_cast<int>(answerLimit.count())),
-      link_(std::make_shared<Link>()), signals_(std::make_unique<NotificationSignals>()) {
+DesktopNotifier::DesktopNotifier(std::chrono::milliseconds answerLimit)
+    : limit_(static_cast<int>(answerLimit.count())), link_(std::make_shared<Link>()),
+      signals_(std::make_unique<NotificationSignals>()) {
     static std::atomic<int> count = 0;
     name_ = QStringLiteral("kestrova-notifier-%1").arg(++count);
     link_->Receiver = signals_.get();
@@ -134,13 +156,16 @@ void DesktopNotifier::Settle() {
 }
 
 void DesktopNotifier::Connect() {
-    if (bus_.isEmpty()) {
-        GiveUp(QStringLiteral("no message bus"));
-        return;
-    }
     busy_ = true;
-    const auto connect = [this, link = link_, bus = bus_, name = name_] {
-        const QDBusConnection made = QDBusConnection::connectToBus(bus, name);
+    const auto connect = [this, link = link_, name = name_] {
+        if (!BusAnswers()) {
+            (void)link->Post([this] {
+                busy_ = false;
+                GiveUp(QStringLiteral("no message bus"));
+            });
+            return;
+        }
+        const auto made = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
         const QString trouble = made.isConnected() ? QString() : made.lastError().message();
         const bool wanted = link->Post([this, made, trouble] {
             busy_ = false;

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,11 +26,7 @@ class DesktopNotifier : public Notifier {
 public:
     static constexpr std::chrono::milliseconds kAnswerLimit{25'000};
 
-    // Where the user's message bus is to be found; empty when there is none.
-    [[nodiscard]] static std::string SessionBus();
-
-    explicit DesktopNotifier(std::string bus = SessionBus(),
-                             std::chrono::milliseconds answerLimit = kAnswerLimit);
+    explicit DesktopNotifier(std::chrono::milliseconds answerLimit = kAnswerLimit);
 
     // Takes away what is shown: nobody would answer to it any more.
     ~DesktopNotifier() override;
@@ -59,7 +56,6 @@ private:
     void GiveUp(const QString& trouble);
     [[nodiscard]] bool IsOurs(const QDBusMessage& said) const;
 
-    QString bus_;
     int limit_;                  // milliseconds
     QString name_;               // of the connection
     std::shared_ptr<Link> link_; // with the thread that connects, which may outlive this object

@@ -310,13 +310,15 @@ TEST(FormCalTest, AMissingHelpPageIsSaid) {
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
 }
 
-TEST(FormCalTest, PictureMenuAndKeyOpenTheSettings) {
+TEST(FormCalTest, PictureMenuAndKeysOpenTheSettingsAndTheSearch) {
     MonthScene scene;
     scene.Show();
     QTest::mouseDClick(scene.Find<QWidget>(QStringLiteral("Image1")), Qt::LeftButton);
     scene.Find<QAction>(QStringLiteral("MNU_Settings"))->trigger();
     scene.Press(Qt::Key_Comma, Qt::ControlModifier);
     EXPECT_EQ(scene.SettingsOpened, 3);
+    scene.Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(scene.Searches, 1);
 }
 
 TEST(FormCalTest, TipsGoAndComeBack) {
