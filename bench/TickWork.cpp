@@ -35,6 +35,13 @@ struct NoDialogs : Dialogs {
     bool Ask(const Message& /*message*/, const AnswerCaptions& /*captions*/) override {
         return false;
     }
+    std::size_t AskAmong(const Message& /*message*/,
+                         const std::vector<std::string>& captions) override {
+        return captions.size() - 1;
+    }
+    std::optional<std::int32_t> ChooseColour(std::int32_t /*offered*/) override {
+        return std::nullopt;
+    }
     std::optional<std::string> Input(const std::string& /*title*/, const std::string& /*prompt*/,
                                      const std::string& /*offered*/) override {
         return std::nullopt;

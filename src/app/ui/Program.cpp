@@ -366,6 +366,7 @@ void Program::RunCheck_Change(std::string_view text) {
 }
 
 void Program::TodayMoved(bool wasShown) {
+    reminderNotice_.Done(); // the same words on another day are another reminder
     if (wasShown) {
         ShowToday(dates_);
         formCal_.GetPicture();

@@ -115,10 +115,12 @@ void DiaryFinder::LoadCaptions() {
 }
 
 void DiaryFinder::Open(QWidget* over) {
-    if (isVisible()) {
-        activateWindow();
-    } else {
-        setParent(over, windowFlags()); // a window that has one above it would be shut out by it
+    if (!isVisible() || parentWidget() != over) {
+        if (isVisible()) {
+            last_ = Current();
+            hide();
+        }
+        setParent(over, windowFlags()); // a page that has come over it would shut it out
         TakeIn();
         Search(last_);
         show();

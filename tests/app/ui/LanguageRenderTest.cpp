@@ -117,7 +117,8 @@ std::vector<Shown> ShownBy(const QWidget& widget) {
         }
         return shown;
     }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+    if (button != nullptr && !button->text().isEmpty()) {
         const int around = button->sizeHint().width() -
                            button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
         return {{button->text(), button->width() - around}};

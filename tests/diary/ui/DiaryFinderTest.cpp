@@ -73,8 +73,13 @@ TEST(DiaryFinderTest, KeysGoThroughTheListAndEnterShowsTheDay) {
     QTest::keyClick(scene.Line(), Qt::Key_Return);
     EXPECT_THAT(scene.Shown, ElementsAre("2027-2 ZAHN last"));
 
-    // It comes again as it was left.
+    // It comes again as it was left, over whatever window asks for it.
     scene.Window->Open(nullptr);
+    QWidget page;
+    scene.Window->Open(&page);
+    EXPECT_EQ(scene.Window->parentWidget(), &page);
+    scene.Window->Open(nullptr);
+    EXPECT_TRUE(scene.Window->isVisible());
     EXPECT_EQ(scene.Line()->selectedText(), QStringLiteral("zahn"));
     EXPECT_EQ(scene.Current(), "Wednesday 3 February 2027, 09:05, ZAHN last");
     QTest::keyClick(scene.List(), Qt::Key_Up);
