@@ -60,10 +60,10 @@ void TakeIn(benchmark::State& state) {
 }
 
 const AtMost kMessages =
-    AtMost::Seconds(3e-3, "find in the messages of a full diary, a key stroke", FindInMessages);
+    AtMost::Seconds(1e-3, "find in the messages of a full diary, a key stroke", FindInMessages);
 const AtMost kNotes =
     AtMost::Seconds(16e-3, "find in its messages and 7 MB of notes, a key stroke", FindInNotes);
-const AtMost kTakeIn = AtMost::Seconds(20e-3, "take in a full diary to be searched", TakeIn);
+const AtMost kTakeIn = AtMost::Seconds(10e-3, "take in a full diary to be searched", TakeIn);
 
 } // namespace
 

@@ -93,8 +93,8 @@ TEST(ShippedLanguagesTest, ItemsOfAListAndAccessKeysOfAMenuDiffer) {
         {MenuGameStart, MenuGameJigSaw, MenuGameSize, MenuGamePicture, MenuGameQuit},
         {MenuFullScreen, MenuRepeatMode, MenuSettings, MenuExit},
         {MenuManual, MenuAbout},
-        {MenuNewEvent, MenuSearch, MenuDelete, MenuDeleteAll, MenuUndo, MenuAddNetUser, MenuRemoveNetUser,
-         MenuCloseDay}};
+        {MenuNewEvent, MenuSearch, MenuDelete, MenuDeleteAll, MenuUndo, MenuAddNetUser,
+         MenuRemoveNetUser, MenuCloseDay}};
     for (const StringTable& table : Tables()) {
         EXPECT_EQ(SharedItemText(table), std::nullopt);
         std::set<std::pair<std::size_t, unsigned>> seen;
