@@ -87,8 +87,7 @@ void DiarySearch::TakeNotes(NoteTexts notes) {
             GetFile({event.Slot, event.Date.Day, event.Date.Month, YearIndex(event)}));
         if (note != notes.Texts.end()) {
             event.Note = notes_.size();
-            notes_.push_back({std::move(note->second), {}});
-            notes_.back().Folded = Fold(notes_.back().Text);
+            notes_.push_back(std::move(note->second));
         }
     }
 }

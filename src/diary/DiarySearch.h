@@ -66,17 +66,12 @@ public:
     [[nodiscard]] bool HasSnippet(std::size_t number, const std::vector<std::string>& words) const;
 
 private:
-    struct Note {
-        std::string Text;
-        std::string Folded;
-    };
-
     [[nodiscard]] int YearIndex(const Event& event) const { return event.Date.Year - baseYear_; }
     [[nodiscard]] bool Holds(const Event& event, const std::vector<std::string>& words) const;
 
     int baseYear_;
     std::vector<Event> events_;
-    std::vector<Note> notes_;
+    std::vector<SearchedNote> notes_;
 };
 
 } // namespace kestrova

@@ -7,7 +7,6 @@
 #include <mutex>
 #include <system_error>
 #include <thread>
-#include <utility>
 
 namespace kestrova {
 
@@ -34,7 +33,7 @@ NoteTexts ReadNoteTexts(const FileStore& files, const std::string& diaryFolder,
         }
         size += text->size();
         if (!text->empty()) {
-            notes.Texts.emplace(name, std::move(*text));
+            notes.Texts.emplace(name, SearchedNote(std::move(*text)));
         }
     }
     return notes;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/FileStore.h"
+#include "text/Folding.h"
 
 #include <cstddef>
 #include <functional>
@@ -11,12 +12,22 @@
 #include <set>
 #include <stop_token>
 #include <string>
+#include <utility>
 
 namespace kestrova {
 
-// The notes of a diary, to be searched.
+// A note to be searched: its text, lines parted by '\n', and the same folded.
+struct SearchedNote {
+    std::string Text;
+    std::string Folded;
+
+    SearchedNote() = default;
+    explicit SearchedNote(std::string text) : Text(std::move(text)), Folded(Fold(Text)) {}
+};
+
+// The notes of a diary.
 struct NoteTexts {
-    std::map<std::string, std::string> Texts; // by the name that GetFile gives; lines end in '\n'
+    std::map<std::string, SearchedNote> Texts; // by the name that GetFile gives
     bool Complete = true; // no note was left out: unreadable, no text, or beyond the limits
 };
 

@@ -32,7 +32,7 @@ struct SearchScene {
     void Put(const SlotPlace& place, const std::string& message, const std::string& note = {}) {
         Table.At(place) = MakeEvent(9, place.Slot, message);
         if (!note.empty()) {
-            Notes.Texts[GetFile(place)] = note;
+            Notes.Texts[GetFile(place)] = SearchedNote(note);
         }
     }
 
@@ -114,7 +114,8 @@ TEST(DiarySearchTest, OnlyNotesOfEventsAreReadAndWhatCannotBeIsSaid) {
     EXPECT_TRUE(read().Complete);
     scene.Files.Put(scene.NotePath({1, 1, 0, 0}), "Caf\xE9\r\nzwei\r\n"); // an older program's
     scene.Files.Put(scene.NotePath({2, 1, 0, 0}), "of no event\r\n");
-    EXPECT_THAT(read().Texts, ElementsAre(testing::Pair(*names.begin(), "Café\nzwei")));
+    ASSERT_THAT(read().Texts, testing::SizeIs(1));
+    EXPECT_EQ(read().Texts[*names.begin()].Text, "Café\nzwei");
     EXPECT_TRUE(read().Complete);
     EXPECT_FALSE(read({4, 1000}).Complete);
     EXPECT_FALSE(read({1000, 4}).Complete);

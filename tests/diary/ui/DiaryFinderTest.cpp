@@ -101,7 +101,7 @@ TEST(DiaryFinderTest, NotesJoinInWhenTheyHaveBeenRead) {
     FinderScene scene;
     scene.Insert({1, 5, 0}, MakeEvent(9, 0, "Dentist"));
     scene.Insert({2, 5, 0}, MakeEvent(9, 0, "Card game"));
-    scene.Notes = {{{GetFile({1, 1, 5, 0}), "Take the card along."}}, false};
+    scene.Notes = {{{GetFile({1, 1, 5, 0}), SearchedNote("Take the card along.")}}, false};
     scene.NotesRead->store(false);
     scene.Open();
     scene.Type("card");
