@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <system_error>
-#include <vector>
 
 namespace kestrova {
 
@@ -31,23 +30,6 @@ std::string JournalPath(const std::string& noteFolder) {
 
 std::string YearPath(const std::string& noteFolder) {
     return noteFolder + "Year.dat";
-}
-
-// The files of a folder that are notes, by the name of the note. Looked up one by one, many notes
-// would mean as many looks through the whole folder. Where several files differ in case alone, the
-// first is the one that FindEntry finds.
-std::map<std::string, std::vector<std::string>> NoteFiles(const FileStore& files,
-                                                          const std::string& noteFolder) {
-    std::map<std::string, std::vector<std::string>> notes;
-    std::vector<std::string> all = files.List(noteFolder);
-    std::sort(all.begin(), all.end());
-    for (std::string& file : all) {
-        if (auto name = NoteNameOf(file)) {
-            std::vector<std::string>& variants = notes[*name];
-            variants.insert(file == *name ? variants.begin() : variants.end(), std::move(file));
-        }
-    }
-    return notes;
 }
 
 Error TooLarge(const std::string& path) {
@@ -96,6 +78,20 @@ std::string NoteFolder(const FileStore& files, const std::string& diaryFolder) {
 
 std::string DiaryPath(const FileStore& files, const std::string& diaryFolder) {
     return EntryPath(files, NoteFolder(files, diaryFolder), "Data.dat");
+}
+
+std::map<std::string, std::vector<std::string>> NoteFiles(const FileStore& files,
+                                                          const std::string& noteFolder) {
+    std::map<std::string, std::vector<std::string>> notes;
+    std::vector<std::string> all = files.List(noteFolder);
+    std::sort(all.begin(), all.end());
+    for (std::string& file : all) {
+        if (auto name = NoteNameOf(file)) {
+            std::vector<std::string>& variants = notes[*name];
+            variants.insert(file == *name ? variants.begin() : variants.end(), std::move(file));
+        }
+    }
+    return notes;
 }
 
 std::string DiaryFiles::NotePath(const std::string& folder, const std::string& name) const {

@@ -7,10 +7,12 @@
 #include "platform/Clock.h"
 #include "platform/FileStore.h"
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace kestrova {
 
@@ -19,6 +21,12 @@ namespace kestrova {
 // looking at a friend's can never rename or delete one's own.
 [[nodiscard]] std::string NoteFolder(const FileStore& files, const std::string& diaryFolder);
 [[nodiscard]] std::string DiaryPath(const FileStore& files, const std::string& diaryFolder);
+
+// The files of such a folder that are notes, by the name of the note. Looked up one by one, many
+// notes would mean as many looks through the whole folder. Where several files differ in case
+// alone, the first is the one that counts.
+[[nodiscard]] std::map<std::string, std::vector<std::string>>
+NoteFiles(const FileStore& files, const std::string& noteFolder);
 
 // How long opening a diary waits for whoever holds it: a moment, which the user does not notice, or
 // not at all.

@@ -73,6 +73,9 @@ public:
     // A pass by which the reminders on show become delivered.
     void ClearReminders();
 
+    // The reminders on show are to come back in so many minutes.
+    void SnoozeReminders(int minutes) { rooms_.Review.Snooze(rooms_.Time.Now(), minutes); }
+
     // The main window has not yet been drawn for the first time: reminders are not delivered.
     void SetFirstDraw(bool first) { firstDraw_ = first; }
 

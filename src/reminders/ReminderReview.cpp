@@ -57,19 +57,18 @@ CalendarDate ReminderReview::TodaysDate() const {
 }
 
 std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind kind) {
-    lines_.clear();
+    listed_.clear();
     // Yesterday's reminders do not come again, whatever the file says.
-    std::erase_if(usedUp_, [this](const UsedUp& used) { return used.Date < TodaysDate(); });
+    std::erase_if(usedUp_, [this](const Known& used) { return used.Date < TodaysDate(); });
     // The diary may have been loaded anew before all marks could be written.
     ApplyMarks(rooms_.Store.Table());
-    std::vector<DiaryEvent> shownBefore = std::move(shown_);
-    shown_.clear();
     std::vector<DiaryEvent> events;
     events.reserve(kStoredSlots);
     for (int slot = 0; slot < kStoredSlots; ++slot) {
         events.push_back(rooms_.Store.Table().At({slot, Today()}));
     }
     const int minute = now.Hour * 60 + now.Minute;
+    WakeSnoozed(minute);
     const std::string folder = rooms_.Store.Folder();
     for (const DiaryEvent& event : events) {
         if (ended_) {
@@ -80,14 +79,50 @@ std::vector<std::string> ReminderReview::Review(const WallTime& now, PassKind ki
             continue;
         }
         // Clearing acknowledges what was on show, not what has fallen due since.
-        const bool wasShown =
-            std::find(shownBefore.begin(), shownBefore.end(), event) != shownBefore.end();
+        const bool wasShown = std::find(shown_.begin(), shown_.end(),
+                                        Known{folder, TodaysDate(), event}) != shown_.end();
         const bool fresh = kind == PassKind::Clearing && !wasShown;
         if (Deliver(event, fresh ? PassKind::Ordinary : kind) == Delivery::UsedUp) {
             MarkUsedUp(folder, event);
         }
     }
-    return lines_;
+    return List();
+}
+
+// The lines for the window, without those that the user has sent away while a delivery waited.
+std::vector<std::string> ReminderReview::List() {
+    std::erase_if(listed_, [this](const Known& what) { return IsSnoozed(what); });
+    shown_ = std::move(listed_);
+    listed_.clear();
+    std::vector<std::string> lines;
+    lines.reserve(shown_.size());
+    for (const Known& what : shown_) {
+        lines.push_back(ReminderLine(what.Event));
+    }
+    return lines;
+}
+
+void ReminderReview::Snooze(const WallTime& now, int minutes) {
+    constexpr int kLastMinute = 24 * 60 - 1;
+    const int minute = now.Hour * 60 + now.Minute;
+    const int begun = now.Second < 30 ? 0 : 1; // of the next minute, more is past than to come
+    const int until = minute + begun + std::clamp(minutes, 1, kLongestSnooze);
+    for (Known& what : shown_) {
+        snoozed_.push_back({std::move(what), minute, std::min(until, kLastMinute)});
+    }
+    shown_.clear();
+}
+
+void ReminderReview::WakeSnoozed(int minute) {
+    std::erase_if(snoozed_, [&](const Snoozed& snoozed) {
+        return snoozed.What.Date != TodaysDate() || minute < snoozed.From ||
+               minute >= snoozed.Until;
+    });
+}
+
+bool ReminderReview::IsSnoozed(const Known& what) const {
+    return std::any_of(snoozed_.begin(), snoozed_.end(),
+                       [&](const Snoozed& snoozed) { return snoozed.What == what; });
 }
 
 void ReminderReview::MarkUsedUp(const std::string& folder, const DiaryEvent& event) {
@@ -108,11 +143,11 @@ void ReminderReview::MarkUsedUp(const std::string& folder, const DiaryEvent& eve
 
 bool ReminderReview::HasChanges() const {
     return std::any_of(usedUp_.begin(), usedUp_.end(),
-                       [this](const UsedUp& used) { return used.Folder == rooms_.Store.Folder(); });
+                       [this](const Known& used) { return used.Folder == rooms_.Store.Folder(); });
 }
 
 void ReminderReview::ApplyMarks(DiaryTable& table) const {
-    for (const UsedUp& used : usedUp_) {
+    for (const Known& used : usedUp_) {
         const int year = used.Date.Year - rooms_.Dates.BaseYear;
         if (used.Folder != rooms_.Store.Folder() || year < 0 || year >= kDiaryYears) {
             continue;
@@ -134,7 +169,7 @@ ChangeResult ReminderReview::Save(SaveMessages messages) {
         messages);
     if (result == ChangeResult::Saved) {
         std::erase_if(usedUp_,
-                      [this](const UsedUp& used) { return used.Folder == rooms_.Store.Folder(); });
+                      [this](const Known& used) { return used.Folder == rooms_.Store.Folder(); });
     }
     return result;
 }
@@ -164,8 +199,9 @@ ReminderReview::Delivery ReminderReview::Screen(const DiaryEvent& event, PassKin
     if (kind != PassKind::Ordinary) {
         return Delivery::UsedUp;
     }
-    lines_.push_back(ReminderLine(event));
-    shown_.push_back(event);
+    if (Known what{rooms_.Store.Folder(), TodaysDate(), event}; !IsSnoozed(what)) {
+        listed_.push_back(std::move(what));
+    }
     return Delivery::Pending;
 }
 

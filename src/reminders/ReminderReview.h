@@ -29,6 +29,9 @@ enum class PassKind {
 // The line of an event in the reminder window: "09:05    Dentist".
 [[nodiscard]] std::string ReminderLine(const DiaryEvent& event);
 
+// How long the user can send the listed reminders away.
+inline constexpr int kLongestSnooze = 24 * 60 - 1; // minutes
+
 // Goes through today's events once a minute and delivers every reminder whose time has come. One
 // that has been delivered is used up: its kind becomes None, in memory at once and in the file with
 // the next save. One that could not be delivered stays due for the rest of the day.
@@ -53,6 +56,12 @@ public:
     // event again by what it holds. Returns the lines for the reminder window, in order.
     std::vector<std::string> Review(const WallTime& now, PassKind kind);
 
+    // The reminders that the window shows are to come back in so many minutes, 1 to kLongestSnooze,
+    // and at the latest in the last minute of the day, with which they end. Nothing is marked and
+    // nothing saved: an event that is changed meanwhile is another, and a program that is started
+    // anew knows of none. A clock that is set back brings them at once.
+    void Snooze(const WallTime& now, int minutes);
+
     // The program is ending: a review that is under way delivers nothing more.
     void End() { ended_ = true; }
 
@@ -66,10 +75,19 @@ public:
 private:
     enum class Delivery { UsedUp, Pending };
 
-    struct UsedUp {
-        std::string Folder; // of its diary: another may be shown meanwhile
+    // An event of some day in the diary of some folder: another may be shown meanwhile.
+    struct Known {
+        std::string Folder;
         CalendarDate Date;
-        DiaryEvent Event; // as it was before
+        DiaryEvent Event;
+
+        bool operator==(const Known&) const = default;
+    };
+
+    struct Snoozed {
+        Known What;
+        int From = 0; // minutes since midnight
+        int Until = 0;
     };
 
     [[nodiscard]] DayPlace Today() const;
@@ -82,14 +100,18 @@ private:
     bool CallNumbers(const DiaryEvent& event);
     void MarkUsedUp(const std::string& folder, const DiaryEvent& event);
     void ApplyMarks(DiaryTable& table) const;
+    [[nodiscard]] bool IsSnoozed(const Known& what) const;
+    void WakeSnoozed(int minute);
+    std::vector<std::string> List();
 
     Rooms rooms_;
     bool ended_ = false;
-    int speakRepeatCount_ = 0; // SpeakRepeatCount
-    int phoneRepeatCount_ = 0; // PhoneRepeatCount
-    std::vector<std::string> lines_;
-    std::vector<DiaryEvent> shown_; // what the reminder window shows
-    std::vector<UsedUp> usedUp_;    // what the files do not have yet
+    int speakRepeatCount_ = 0;  // SpeakRepeatCount
+    int phoneRepeatCount_ = 0;  // PhoneRepeatCount
+    std::vector<Known> shown_;  // what the reminder window shows
+    std::vector<Known> listed_; // what the review under way has listed for it
+    std::vector<Snoozed> snoozed_;
+    std::vector<Known> usedUp_; // what the files do not have yet, as it was before
 };
 
 } // namespace kestrova

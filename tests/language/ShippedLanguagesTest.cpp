@@ -93,8 +93,8 @@ TEST(ShippedLanguagesTest, ItemsOfAListAndAccessKeysOfAMenuDiffer) {
         {MenuGameStart, MenuGameJigSaw, MenuGameSize, MenuGamePicture, MenuGameQuit},
         {MenuFullScreen, MenuRepeatMode, MenuSettings, MenuExit},
         {MenuManual, MenuAbout},
-        {MenuNewEvent, MenuDelete, MenuDeleteAll, MenuUndo, MenuExport, MenuImport, MenuAddNetUser,
-         MenuRemoveNetUser, MenuCloseDay}};
+        {MenuNewEvent, MenuSearch, MenuDelete, MenuDeleteAll, MenuUndo, MenuExport, MenuImport,
+         MenuAddNetUser, MenuRemoveNetUser, MenuCloseDay}};
     for (const StringTable& table : Tables()) {
         EXPECT_EQ(SharedItemText(table), std::nullopt);
         std::set<std::pair<std::size_t, unsigned>> seen;

@@ -54,6 +54,105 @@ TEST(ReminderReviewTest, ClearingWorksInTheSecondOfThePass) {
     EXPECT_EQ(scene.ReminderOnFile(), "None");
 }
 
+TEST(ReminderReviewTest, SnoozedLinesStayAwayAndNothingIsMarkedOrSaved) {
+    ClockScene scene;
+    scene.Add(9, 0, "snoozed", "Screen");
+    scene.Add(9, 3, "other", "Screen");
+    scene.PassAt(9, 0);
+    const auto file = scene.Files.Content(kDataPath);
+    scene.Tick.SnoozeReminders(5);
+    scene.PassAt(9, 1);
+    scene.PassAt(9, 2);
+    EXPECT_EQ(scene.Windows.Lines.size(), 1U);
+    scene.PassAt(9, 3);
+    EXPECT_THAT(scene.Windows.Lines.back(), ElementsAre("09:03    other")) << "alone";
+    scene.PassAt(9, 4);
+    EXPECT_EQ(scene.Files.Content(kDataPath), file);
+
+    scene.Tick.ClearReminders();
+    EXPECT_EQ(scene.ReminderOnFile(1), "Screen") << "what is away is not cleared";
+    EXPECT_EQ(scene.ReminderOnFile(2), "None");
+    scene.PassAt(9, 5);
+    EXPECT_THAT(scene.Windows.Lines.back(), ElementsAre("09:00    snoozed"));
+    scene.Tick.SnoozeReminders(1);
+    scene.PassAt(9, 6);
+    scene.Tick.ClearReminders();
+    EXPECT_EQ(scene.ReminderOnFile(1), "None");
+}
+
+TEST(ReminderReviewTest, ASnoozedEventThatIsChangedIsAnother) {
+    ClockScene scene;
+    scene.Add(9, 0, "a", "Screen");
+    scene.Add(9, 0, "b", "Screen");
+    scene.PassAt(9, 0);
+    scene.Tick.SnoozeReminders(30);
+    scene.WriteFromOutside(ClockScene::Today(), {MakeEvent(9, 0, "a, but upstairs")});
+    scene.TickAt(9, 0, 20);
+    scene.PassAt(9, 1);
+    EXPECT_THAT(scene.Windows.Lines.back(), ElementsAre("09:00    a, but upstairs"));
+    scene.PassAt(9, 30);
+    EXPECT_THAT(scene.Windows.Lines.back(), ElementsAre("09:00    a, but upstairs"));
+}
+
+TEST(ReminderReviewTest, ASnoozeEndsWithTheDayWithTheClockAndWithTheProgram) {
+    const auto snoozed = [](ClockScene& scene, int minutes) {
+        scene.Add(23, 40, "x", "Screen");
+        scene.PassAt(23, 40);
+        scene.Tick.SnoozeReminders(minutes);
+    };
+    ClockScene late;
+    snoozed(late, 60);
+    late.PassAt(23, 58);
+    EXPECT_EQ(late.Windows.Lines.size(), 1U);
+    late.PassAt(23, 59);
+    EXPECT_EQ(late.Windows.Lines.size(), 2U) << "midnight would take it away unseen";
+    late.Tick.SnoozeReminders(10);
+    late.Clock.Time.Day = 15;
+    late.Insert({15, 4, 0}, MakeEvent(0, 1, "today"));
+    late.PassAt(0, 20);
+    EXPECT_THAT(late.Windows.Lines.back(), ElementsAre("00:01    today"));
+
+    ClockScene turnedBack;
+    turnedBack.Add(22, 0, "x", "Screen");
+    turnedBack.PassAt(23, 0);
+    turnedBack.Tick.SnoozeReminders(10);
+    turnedBack.PassAt(22, 1);
+    EXPECT_EQ(turnedBack.Windows.Lines.size(), 2U) << "not an hour late";
+
+    ClockScene ended;
+    snoozed(ended, 10);
+    ReminderReview restarted({ended.Store, ended.Dates, ended.Texts, ended.Settings, ended.Speech,
+                              ended.Phone, ended.Mail, ended.Media, ended.Loop, ended.Bell});
+    EXPECT_THAT(restarted.Review(ended.Clock.Time, PassKind::Ordinary), ElementsAre("23:40    x"));
+}
+
+TEST(ReminderReviewTest, SnoozingWhileADeliveryWaitsHoldsForThisPassToo) {
+    ClockScene scene;
+    scene.Settings.SpeechEnabled = 1;
+    scene.Speech.Loaded = true;
+    scene.Add(9, 0, "listed before", "Screen");
+    scene.Add(9, 1, "spoken", "Speak");
+    scene.Add(9, 1, "listed now", "Screen");
+    scene.PassAt(9, 0);
+    scene.Loop.WhileWaiting = [&] { scene.Tick.SnoozeReminders(10); };
+    scene.PassAt(9, 1);
+    EXPECT_THAT(scene.Windows.Lines.back(), ElementsAre("09:01    listed now"));
+}
+
+TEST(ReminderReviewTest, ASnoozeBelongsToTheDiaryThatWasShown) {
+    ClockScene scene;
+    scene.WriteFromOutside(ClockScene::Today(), {MakeEvent(9, 0, "x")}, kBobsPath);
+    scene.Add(9, 0, "x", "Screen");
+    scene.PassAt(9, 0);
+    scene.Tick.SnoozeReminders(10);
+    scene.Store.GetData(kBobsFolder);
+    scene.PassAt(9, 1);
+    EXPECT_EQ(scene.Windows.Lines.size(), 2U);
+    scene.Store.GetData(kFolder);
+    scene.PassAt(9, 2);
+    EXPECT_EQ(scene.Windows.Lines.size(), 2U);
+}
+
 TEST(ReminderReviewTest, BeforeTheFirstDrawingRemindersAreDropped) {
     for (const char* const rmd : {"Screen", "Speak", "Phone"}) {
         SCOPED_TRACE(rmd);

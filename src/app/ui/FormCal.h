@@ -55,6 +55,7 @@ public:
     // What the window asks of the program around it.
     struct Hooks {
         std::function<void(int day)> OpenDiary;
+        std::function<void()> OpenFinder;
         std::function<void()> OpenSettings;
         std::function<void()> SettingsChanged; // to be kept
         std::function<void()> VideoChosen;     // to be kept: how films are shown

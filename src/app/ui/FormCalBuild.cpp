@@ -250,6 +250,10 @@ void FormCal::BuildMonthMenu() {
     AddAction(MNU_Month, QStringLiteral("MNU_Year"), [this] {
         LabCurMth_DblClick();
     })->setShortcut(Qt::CTRL | Qt::Key_Y);
+    AddAction(MNU_Date, QStringLiteral("MNU_Search"), [this] {
+        hooks_.OpenFinder();
+    })->setShortcut(QKeySequence::Find);
+    MNU_Date->addSeparator();
     for (int i = 0; i < kMaxDays; ++i) {
         QAction* const day =
             AddAction(MNU_Date, ArrayName("MNU_Day", i), [this, i] { hooks_.OpenDiary(i + 1); });
@@ -306,6 +310,7 @@ void FormCal::LoadCaptions() {
         {"MNU_Previous", ProgramText::MenuPreviousMonth},
         {"MNU_Next", ProgramText::MenuNextMonth},
         {"MNU_Year", ProgramText::MenuYear},
+        {"MNU_Search", ProgramText::MenuSearch},
         {"MNU_Manual", ProgramText::MenuManual},
         {"MNU_TellFriend", ProgramText::MenuTellFriend},
         {"MNU_MailAccount", ProgramText::MenuMailAccount},

@@ -54,14 +54,26 @@ Program::Program(Orders orders, InstanceLink& link)
                beeper_}),
       tick_({clock_, store_, dates_, texts_, settings_, dataFolder_, review_, speech_, media_,
              beeper_, *this}),
+      reminderNotice_(notifier_, texts_,
+                      {[this] {
+                           if (screenReminder_) {
+                               screenReminder_->BringUp();
+                           }
+                       },
+                       [this](int minutes) {
+                           if (screenReminder_) {
+                               screenReminder_->Snooze(minutes);
+                           }
+                       }}),
       print_({files_, dialogs_, dates_, texts_, settings_, pictures_, store_, dataFolder_},
              [this] { KeepPrintChoices(); }),
       formCal_({dates_, texts_, settings_, store_, languages_, pictures_, dataFolder_, speech_,
                 media_, dialogs_, shell_, clock_, pieces_, files_},
-               {[this](int day) { OpenDiary(day); }, [this] { OpenSettings(); },
-                [this] { KeepMenuChoices(); }, [this] { KeepVideoChoices(); },
-                [this] { ShowVideoChoices(); }, [this](int index) { ChangeLanguage(index); },
-                [this] { ReloadLanguage(); }, [this] { FirstDrawn(); },
+               {[this](int day) { OpenDiary(day); }, [this] { OpenFinder(); },
+                [this] { OpenSettings(); }, [this] { KeepMenuChoices(); },
+                [this] { KeepVideoChoices(); }, [this] { ShowVideoChoices(); },
+                [this](int index) { ChangeLanguage(index); }, [this] { ReloadLanguage(); },
+                [this] { FirstDrawn(); },
                 [this](int minutes) { tick_.SetReturnCountdown(minutes); },
                 [this] { HideSettings(); }, [this] { ChPic({}); }, [this] { SavePic(); },
                 [this] { mail_.TellAFriend(); }, [this] { mail_.OpenAccount(); },
@@ -230,6 +242,9 @@ void Program::LoadCaptions() {
     if (screenReminder_) {
         screenReminder_->LoadCaptions();
     }
+    if (finder_) {
+        finder_->LoadCaptions();
+    }
     if (settingsWindow_) {
         settingsWindow_->LoadCaptions();
     }
@@ -354,30 +369,6 @@ void Program::Tell(const std::string& text) {
     notice_.Tell(ToQt(texts_.Text(texts::kMessengerTitle)), ToQt(text));
 }
 
-void Program::OpenDiary(int day) {
-    dates_.PageDay = day;
-    if (!dates_.PageYearIndex()) {
-        dialogs_.Show({texts_.Text(texts::kProgramTitle), texts_.Text(texts::kOnlyTwoYears),
-                       DialogIcon::None});
-        return;
-    }
-    if (screenReminder_) {
-        screenReminder_->hide();
-        screenReminder_->setEnabled(false);
-    }
-    if (!diary_) {
-        diary_ = std::make_unique<Diary>(
-            &formCal_,
-            Diary::Rooms{dates_, texts_, settings_, store_, shared_, editor_, clock_, dialogs_},
-            Diary::Hooks{
-                [this] { formCal_.Redraw(FormCal::kSameMonth); },
-                [this](const std::string& text) { speech_.Talk(text, AfterSpeaking::Hide); },
-                [this] { ChPic({}); }, [this] { ChPic(dates_.PageDay); },
-                [this] { exchangeDialogs_.Export(); }, [this] { exchangeDialogs_.Import(); }});
-    }
-    diary_->OpenPage();
-}
-
 // The main window that gets the focus has the screen to itself. Nothing is lost with the settings:
 // each choice has been taken.
 void Program::HideSettings() {
@@ -395,33 +386,13 @@ void Program::RunCheck_Change(std::string_view text) {
     }
 }
 
-void Program::DiaryReloaded() {
-    formCal_.Redraw(FormCal::kSameMonth);
-    if (DayPageVisible() && !diary_->IsEditing()) {
-        diary_->Reload();
-    }
-}
-
-void Program::DiaryFolderGone() {
-    if (diary_) {
-        diary_->DoNetUsers();
-    }
-}
-
-void Program::ShowReminders(const std::vector<std::string>& lines) {
-    if (!screenReminder_) {
-        screenReminder_ =
-            std::make_unique<ScreenReminder>(texts_, [this] { tick_.ClearReminders(); });
-    }
-    screenReminder_->ShowLines(lines);
-}
-
 void Program::TodayMoved(bool wasShown) {
+    reminderNotice_.Done(); // the same words on another day are another reminder
     if (wasShown) {
         ShowToday(dates_);
         formCal_.GetPicture();
     }
-    formCal_.Redraw(FormCal::kSameMonth);
+    ShowDiaryChanges();
 }
 
 void Program::ReturnToToday() {

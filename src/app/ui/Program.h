@@ -6,6 +6,7 @@
 #include "app/ui/FormCal.h"
 #include "app/ui/PrintOffice.h"
 #include "diary/ui/Diary.h"
+#include "diary/ui/DiaryFinder.h"
 #include "diary/ui/ScreenReminder.h"
 #include "exchange/ExchangeDialogs.h"
 #include "language/ProgramTexts.h"
@@ -18,6 +19,7 @@
 #include "platform/posix/PosixFileStore.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/qt/CalendarModule.h"
+#include "platform/qt/DesktopNotifier.h"
 #include "platform/qt/MailModule.h"
 #include "platform/qt/MediaModule.h"
 #include "platform/qt/QtBeeper.h"
@@ -28,6 +30,7 @@
 #include "platform/qt/SpeechModule.h"
 #include "platform/qt/ToolkitTexts.h"
 #include "reminders/ClockTick.h"
+#include "reminders/ReminderNotice.h"
 #include "settings/SettingsStore.h"
 #include "settings/ShortCut.h"
 #include "settings/ui/Settings.h"
@@ -81,6 +84,11 @@ private:
     void ShowTodayMonth();
     void FirstDrawn();
     void OpenDiary(int day);
+    void ShowDiaryChanges();
+    void OpenFinder();
+    void ShowFound(const DiarySearch::Event& event);
+    void ClearReminders();
+    void SnoozeReminders(int minutes);
     void Tell(const std::string& text);
     void ChPic(std::optional<int> day);
     void SavePic();
@@ -165,6 +173,7 @@ private:
     MediaModule mediaDevices_;
     SpeechModule voices_;
     CalendarModule calendarFiles_;
+    DesktopNotifier notifier_;
     DesktopStage stage_;
 
     Selection dates_;
@@ -190,12 +199,14 @@ private:
     EventEditor editor_;
     ReminderReview review_;
     ClockTick tick_;
+    ReminderNotice reminderNotice_;
 
     PrintOffice print_;
     FormCal formCal_;
     // Made on first use, which start-up need not wait for.
     std::unique_ptr<Diary> diary_;
     std::unique_ptr<ScreenReminder> screenReminder_;
+    std::unique_ptr<DiaryFinder> finder_;
     std::unique_ptr<Settings> settingsWindow_;
     std::unique_ptr<LanEditor> lanEditor_;
     std::unique_ptr<kestrova::Modem> modemWindow_;

@@ -47,6 +47,8 @@ void Diary::LoadCaptions() {
         box->setToolTip(ToQt(TextOf(rooms_.Texts, ProgramText::HideFromMonth)));
     }
     MNU_Insert->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuNewEvent)));
+    findChild<QAction*>(QStringLiteral("MNU_Search"))
+        ->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuSearch)));
     MNU_Delete->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuDelete)));
     MNU_DelAll->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuDeleteAll)));
     MNU_Undo->setText(ToQt(TextOf(rooms_.Texts, ProgramText::MenuUndo)));

@@ -46,6 +46,7 @@ public:
         std::function<void(const std::string& text)> Speak; // reads a note aloud
         std::function<void()> ChangeMonthPicture;           // the user is to choose another one
         std::function<void()> ChangeDayPicture;             // for the page date
+        std::function<void()> Find;                         // the user is to search the diary
         std::function<void()> Export; // the diary shown is to go into a calendar file
         std::function<void()> Import; // events of such a file are to come into it
     };
@@ -55,6 +56,13 @@ public:
 
     // Shows the page of the page date at the top left of the screen.
     void OpenPage();
+
+    // Stands on the row of an event, if the page date has it.
+    void ShowEvent(const DiaryEvent& event, int slot);
+
+    // Before the page shows something else. What has been typed is not thrown away: it is saved, or
+    // the editor stays, and with it the page.
+    [[nodiscard]] bool EndsEdit();
 
     // Rebuilds the page from the table; an edit under way is given up.
     void DrawMainPage();
@@ -104,7 +112,6 @@ private:
     [[nodiscard]] EventDraft Draft() const;
     [[nodiscard]] bool IsDraftChanged() const;
     [[nodiscard]] bool LeavesEdit();
-    [[nodiscard]] bool EndsEdit();
     [[nodiscard]] int RowTop(int row) const;
 
     void LabEvent_DblClick(int index);
@@ -115,6 +122,7 @@ private:
     void ComDayPic_Click() { hooks_.ChangeDayPicture(); }
     void TextTime_Change(QLineEdit& box, QString& accepted, int limit);
     void MNU_File_Click();
+    void MNU_Search_Click() { hooks_.Find(); }
     void MNU_Delete_Click();
     void MNU_DelAll_Click();
     void MNU_Undo_Click();

@@ -206,6 +206,7 @@ void Diary::BuildMenus() {
     MNU_Insert->setObjectName(QStringLiteral("MNU_Insert"));
     MNU_Insert->setShortcut(QKeySequence::New);
     connect(MNU_Insert, &QAction::triggered, this, [this] { LabEvent_DblClick(0); });
+    entry("MNU_Search", &Diary::MNU_Search_Click)->setShortcut(QKeySequence::Find);
     MNU_File->addSeparator();
     MNU_Delete = entry("MNU_Delete", &Diary::MNU_Delete_Click);
     MNU_DelAll = entry("MNU_DelAll", &Diary::MNU_DelAll_Click);

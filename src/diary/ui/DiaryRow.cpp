@@ -75,6 +75,10 @@ int Diary::SlotOf(const DiaryEvent& event, int row) const {
     return slot.value_or(0);
 }
 
+void Diary::ShowEvent(const DiaryEvent& event, int slot) {
+    MarkRow(SlotOf(event, slot));
+}
+
 void Diary::Reload() {
     const auto row = static_cast<std::size_t>(row_);
     const DiaryEvent marked = events_[row];
@@ -250,8 +254,6 @@ bool Diary::LeavesEdit() {
     return true;
 }
 
-// Before the page shows something else. What has been typed is not thrown away: it is saved, or the
-// editor stays.
 bool Diary::EndsEdit() {
     if (IsEditing() && IsDraftChanged()) {
         const bool save =

@@ -50,6 +50,7 @@ struct MonthScene : DiaryScene {
     RecordingShell Desktop;
     PieceFiles Pieces{Files, PlainScratchWriter(Files), kFolder};
     std::vector<int> Opened;
+    int Searches = 0;
     int SettingsOpened = 0;
     int SettingsSaved = 0;
     int FirstDrawn = 0;
@@ -59,8 +60,9 @@ struct MonthScene : DiaryScene {
     int Quits = 0;
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces, Files},
-                   {[this](int day) { Opened.push_back(day); }, [this] { ++SettingsOpened; },
-                    [this] { ++SettingsSaved; }, [this] { ++SettingsSaved; }, [] {}, [](int) {},
+                   {[this](int day) { Opened.push_back(day); }, [this] { ++Searches; },
+                    [this] { ++SettingsOpened; }, [this] { ++SettingsSaved; },
+                    [this] { ++SettingsSaved; }, [] {}, [](int) {},
                     [this] { Window.LoadCaptions(); }, [this] { ++FirstDrawn; },
                     [this](int minutes) { Countdown = minutes; }, [] {},
                     [this] { ++PicturesAsked; }, [this] { ++PicturesSaved; }, [] {}, [] {}, [] {},
@@ -309,13 +311,15 @@ TEST(FormCalTest, AMissingHelpPageIsSaid) {
     EXPECT_EQ(scene.Boxes.Shown.size(), 1U);
 }
 
-TEST(FormCalTest, PictureMenuAndKeyOpenTheSettings) {
+TEST(FormCalTest, PictureMenuAndKeysOpenTheSettingsAndTheSearch) {
     MonthScene scene;
     scene.Show();
     QTest::mouseDClick(scene.Find<QWidget>(QStringLiteral("Image1")), Qt::LeftButton);
     scene.Find<QAction>(QStringLiteral("MNU_Settings"))->trigger();
     scene.Press(Qt::Key_Comma, Qt::ControlModifier);
     EXPECT_EQ(scene.SettingsOpened, 3);
+    scene.Press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(scene.Searches, 1);
 }
 
 TEST(FormCalTest, TipsGoAndComeBack) {

@@ -4,6 +4,7 @@
 #include "diary/DiaryScene.h"
 #include "diary/EditorScene.h"
 #include "diary/ui/Diary.h"
+#include "diary/ui/DiaryFinder.h"
 #include "diary/ui/ScreenReminder.h"
 #include "diary/ui/SlimComboBox.h"
 #include "fakes/CountingBeeper.h"
@@ -116,7 +117,8 @@ std::vector<Shown> ShownBy(const QWidget& widget) {
         }
         return shown;
     }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+    const auto* const button = qobject_cast<const QAbstractButton*>(&widget);
+    if (button != nullptr && !button->text().isEmpty()) {
         const int around = button->sizeHint().width() -
                            button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
         return {{button->text(), button->width() - around}};
@@ -156,8 +158,8 @@ TEST_P(LanguageRenderTest, TheMonth) {
     FormCal month(
         {all.Dates, all.Texts, all.Settings, all.Store, all.Tongues, all.Pictures, all.Folder,
          all.Speech, all.Media, all.Boxes, all.Desktop, all.Clock, all.Pieces, all.Files},
-        {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
-         [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {}, [] { return true; }});
+        {[](int) {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {}, [] {},
+         [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {}, [] { return true; }});
     month.LoadCaptions();
     for (const QSize size : {QSize(640, 480), QSize(1200, 664)}) {
         month.resize(size);
@@ -178,7 +180,7 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     Diary page(nullptr,
                {all.Dates, all.Texts, all.Settings, all.Store, all.Shared, all.Editor, all.Clock,
                 all.Boxes},
-               {[] {}, [](const std::string&) {}, [] {}, [] {}, [] {}, [] {}});
+               {[] {}, [](const std::string&) {}, [] {}, [] {}, [] {}, [] {}, [] {}});
     page.OpenPage();
     ExpectNothingIsCut(page);
     QTest::mouseClick(page.findChild<QLabel*>(QStringLiteral("LabEvent(2)")), Qt::LeftButton);
@@ -188,9 +190,22 @@ TEST_P(LanguageRenderTest, TheDayItsNoteAndTheReminders) {
     ASSERT_NE(note, nullptr);
     ExpectNothingIsCut(*note);
 
-    ScreenReminder reminder(all.Texts, [] {});
+    ScreenReminder reminder(all.Texts, {[] {}, [](int) {}});
     reminder.ShowLines({"09:00  x"});
-    ExpectNothingIsCut(reminder);
+    for (const int width : {reminder.width(), reminder.minimumWidth()}) {
+        reminder.resize(width, reminder.height());
+        ExpectNothingIsCut(reminder);
+    }
+
+    DiaryFinder finder(&page, {all.Dates, all.Texts, all.Store},
+                       {[](const DiarySearch::Event&) {},
+                        [](const auto&, const auto&, const auto&) { return NoteTexts(); }});
+    finder.Open(&page);
+    finder.resize(finder.minimumSize());
+    for (const char* const typed : {"", "x", "nowhere"}) {
+        finder.findChild<QLineEdit*>()->setText(QLatin1String(typed));
+        ExpectNothingIsCut(finder);
+    }
 }
 
 TEST_P(LanguageRenderTest, SettingsAndTheLanguageEditor) {

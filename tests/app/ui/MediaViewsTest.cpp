@@ -44,8 +44,8 @@ struct PanelScene : DiaryScene {
     PieceFiles Pieces{Disc, PlainScratchWriter(Disc), FromQt(Scratch.path()) + "/"};
     FormCal Window{{Dates, Texts, Settings, Store, Tongues, Pictures, Folder, Speech, Media, Boxes,
                     Desktop, Clock, Pieces, Files},
-                   {[](int) {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {}, [](int) {},
-                    [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {},
+                   {[](int) {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](int) {}, [] {}, [] {},
+                    [](int) {}, [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [] {}, [](bool) {},
                     [] { return true; }}};
 
     explicit PanelScene(const std::string& drive = "/dev/cdrom") {

@@ -42,15 +42,16 @@ struct DayPageScene : DiaryScene {
     EventEditor Editor{{Store, Dates, Texts, Settings, Boxes, Details}};
     SharedDiaries Shared{{Files, Clock, OnDisc, Texts, Probe}};
     int Changes = 0;
+    int Searches = 0;
     std::vector<std::string> Spoken;
     std::string PicturesAsked; // M and D
     std::string Exchanges;     // E and I
-    Diary Window{nullptr,
-                 {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
-                 {[this] { ++Changes; },
-                  [this](const std::string& text) { Spoken.push_back(text); },
-                  [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; },
-                  [this] { Exchanges += 'E'; }, [this] { Exchanges += 'I'; }}};
+    Diary Window{
+        nullptr,
+        {Dates, Texts, Settings, Store, Shared, Editor, Clock, Boxes},
+        {[this] { ++Changes; }, [this](const std::string& text) { Spoken.push_back(text); },
+         [this] { PicturesAsked += 'M'; }, [this] { PicturesAsked += 'D'; }, [this] { ++Searches; },
+         [this] { Exchanges += 'E'; }, [this] { Exchanges += 'I'; }}};
 
     DayPageScene() {
         Window.OpenPage();

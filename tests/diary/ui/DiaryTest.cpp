@@ -2,11 +2,10 @@
 #include "diary/ui/Diary.h"
 
 #include "diary/ui/DayPageScene.h"
-#include "diary/ui/ScreenReminder.h"
 #include "ui/Twips.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QFrame>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -188,7 +187,7 @@ TEST(DiaryWindowTest, DeleteEntriesAreThereWhileARowIsEdited) {
 
 // A row that is edited is not lost over a calendar file.
 TEST(DiaryWindowTest, CalendarFilesWaitForTheEditToEnd) {
-    PageScene page;
+    DayPageScene page;
     page.Add("9", "tea");
     page.Find<QAction>("MNU_Export")->trigger();
     page.Click("LabEvent(1)");
@@ -286,34 +285,15 @@ TEST(DiaryWindowTest, AnEventSavedInAnotherLanguageOpensWithTheFirstItems) {
     EXPECT_EQ(page.OnFile().At({1, kDay}).Rpt, "Täglich") << "nothing was changed";
 }
 
-TEST(ScreenReminderTest, TheWindowGrowsWithItsLinesAndIsCleared) {
-    const StringTable texts = MsgDefaults();
-    int cleared = 0;
-    ScreenReminder window(texts, [&] { ++cleared; });
-    window.ShowLines({"09:00    a", "09:01    b", "09:02    c"});
-    ASSERT_TRUE(window.isVisible());
-    auto* const clear = window.findChild<QPushButton*>(QStringLiteral("ComClear"));
-    EXPECT_EQ(window.height(), Pixels(2470));
-    EXPECT_EQ(clear->y(), Pixels(1620));
-    EXPECT_EQ(clear->text(), QStringLiteral("Clear Messages"));
-    EXPECT_EQ(window.windowTitle(), QStringLiteral("Kestrova Messenger"));
-    EXPECT_EQ(window.findChild<QFrame*>(QStringLiteral("Frame1"))->height(), Pixels(4 * 255 + 500));
-    const auto line = [&](int i) {
-        return window.findChild<QLabel*>(QStringLiteral("LabRemind(%1)").arg(i));
-    };
-    EXPECT_EQ(line(3)->text(), QStringLiteral("09:02    c"));
-    EXPECT_TRUE(line(3)->isVisible());
-    EXPECT_FALSE(line(4)->isVisible());
-
-    QTest::mouseClick(clear, Qt::LeftButton);
-    EXPECT_EQ(cleared, 1);
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_FALSE(window.isEnabled());
-    window.ShowLines({"10:00    d"});
-    EXPECT_TRUE(window.isEnabled());
-    EXPECT_EQ(line(1)->text(), QStringLiteral("10:00    d"));
-    EXPECT_FALSE(line(2)->isVisible());
-    EXPECT_EQ(window.height(), Pixels(2 * 255 + 1450));
+TEST(DiaryWindowTest, ThePageAsksForASearchAndShowsWhatItFound) {
+    DayPageScene page;
+    page.Add("10", "mine");
+    page.Find<QAction>("MNU_Search")->trigger();
+    EXPECT_EQ(page.Searches, 1);
+    page.Window.ShowEvent(MakeEvent(10, 0, "mine", "other", "words"), 1);
+    EXPECT_TRUE(page.Find<QLabel>("LabEvent(1)")->hasFocus());
+    page.Window.ShowEvent(MakeEvent(11, 0, "gone"), 1);
+    EXPECT_TRUE(page.Find<QLabel>("LabEvent(0)")->hasFocus());
 }
 
 TEST(DiaryWindowTest, AReloadLeavesTheKeyboardOnItsEvent) {

@@ -87,7 +87,7 @@ TEST(EditWindowTest, APageThatGoesSavesItsNote) {
         Diary window(
             nullptr,
             {dates, scene.Texts, settings, scene.Store, shared, editor, scene.Clock, scene.Boxes},
-            {[] {}, {}, {}, {}, {}, {}});
+            {[] {}, {}, {}, {}, {}, {}, {}});
         window.OpenPage();
         QTest::mouseClick(window.findChild<QLabel*>(QStringLiteral("LabEvent(0)")), Qt::LeftButton);
         window.findChild<QPushButton*>(QStringLiteral("ComInfo"))->click();
