@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the page of a month costs, the toolkit's own drawing aside.
 #include "BoundedWork.h"
+#include "FullMonth.h"
 
-#include "print/PageComposer.h"
 #include "print/PageRenderer.h"
 
 namespace kestrova::bench {
 
 namespace {
-
-constexpr int kYear = 2026;
-constexpr int kMonth = 6; // July: 31 days
-constexpr std::size_t kMessages = 310;
 
 // Counts what is drawn on it, in letters of equal width.
 class CountingSurface : public DrawingSurface {
@@ -39,38 +35,41 @@ public:
                      const PagePicture& /*picture*/) override {}
 };
 
-// Ten messages on each day, each too wide for its cell.
-DiaryTable FullMonth() {
-    DiaryTable table;
-    for (int day = 1; day <= kMaxDays; ++day) {
-        for (int slot = 1; slot <= kEventsPerDay; ++slot) {
-            DiaryEvent& event = table.At({slot, day, kMonth, 0});
-            event.Msg =
-                "Meet Anna and the children at the station, platform " + std::to_string(slot);
-        }
-    }
-    return table;
-}
-
 void ComposeAndDraw(benchmark::State& state) {
-    AppSettings settings;
-    SetDefault(settings);
-    const DiaryTable table = FullMonth();
-    const MonthSource month{kYear,       kMonth, settings,
-                            table,       kYear,  {"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"},
-                            "July  2026"};
+    const FullMonth month;
     for ([[maybe_unused]] auto _ : state) {
         CountingSurface surface;
-        PageLayout page;
-        page.Surface = {surface.PageWidth(), surface.PageHeight()};
-        page.GridOn = true;
-        NameDays(page, month, surface, FirstLayout::Yes);
-        NewPage(page, month, surface);
-        DoHeader(page.LabCurMth, month, surface);
-        DoControls(page, month, surface, FirstLayout::Yes);
+        const PageLayout page =
+            month.Composed({surface.PageWidth(), surface.PageHeight()}, surface);
         DoBorder(page, surface);
         DoPrint(page, kMaxDays, surface);
-        if (page.LabEvent.size() != kMessages || surface.Texts < kMessages + kMaxDays) {
+        if (page.LabEvent.size() != FullMonth::kMessages ||
+            surface.Texts < FullMonth::kMessages + kMaxDays) {
+            state.SkipWithError("the page is not complete");
+            return;
+        }
+    }
+}
+
+// As much text as a layout file can hold, in columns that go on far below the page.
+void HostileLabels(benchmark::State& state) {
+    constexpr int kColumns = 60;
+    constexpr int kWords = 16'000;
+    LayoutItem column;
+    column.FontSize = 1;
+    column.Width = 200;
+    column.Height = 1'000'000;
+    for (int i = 0; i < kWords; ++i) {
+        column.Caption += "x ";
+    }
+    const FullMonth month;
+    for ([[maybe_unused]] auto _ : state) {
+        CountingSurface surface;
+        PageLayout page = month.Composed({surface.PageWidth(), surface.PageHeight()}, surface);
+        page.LabUser.assign(kColumns, column);
+        DoPrint(page, kMaxDays, surface);
+        const std::size_t rows = 1 + surface.PageHeight() / surface.LineHeight(column.Font());
+        if (surface.Texts < kColumns * rows) {
             state.SkipWithError("the page is not complete");
             return;
         }
@@ -78,6 +77,8 @@ void ComposeAndDraw(benchmark::State& state) {
 }
 
 const AtMost kPage = AtMost::Seconds(5e-3, "compose a page of 310 messages", ComposeAndDraw);
+const AtMost kHostile =
+    AtMost::Seconds(0.2, "compose and draw a page of 2 MB of labels", HostileLabels);
 
 } // namespace
 

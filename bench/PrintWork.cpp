@@ -2,13 +2,16 @@
 // What a month's page costs to be laid out in lines and drawn: onto the window's image and onto
 // paper.
 #include "BoundedWork.h"
+#include "FullMonth.h"
 
 #include "platform/qt/PageImage.h"
 #include "platform/qt/PainterSurface.h"
 #include "platform/qt/PdfJob.h"
+#include "print/PageRenderer.h"
 
 #include <QApplication>
 
+#include <functional>
 #include <string>
 
 namespace kestrova::bench {
@@ -53,7 +56,8 @@ void DrawMonth(DrawingSurface& page) {
     }
 }
 
-void OnImage(benchmark::State& state) {
+// Draws a page onto an image of a screen's resolution, again and again.
+void DrawOnImage(benchmark::State& state, const std::function<void(PainterSurface&)>& draw) {
     StartToolkit();
     const PageSize area = PrintableArea({});
     QImage image(static_cast<int>(area.Width * kPixelsPerTwip),
@@ -65,8 +69,26 @@ void OnImage(benchmark::State& state) {
         QPainter painter(&image);
         painter.scale(kPixelsPerTwip, kPixelsPerTwip);
         PainterSurface surface(painter, measure, area);
-        DrawMonth(surface);
+        draw(surface);
     }
+}
+
+void OnImage(benchmark::State& state) {
+    DrawOnImage(state, DrawMonth);
+}
+
+// All that is done when a month is shown.
+void ComposeAndRender(benchmark::State& state) {
+    const FullMonth month;
+    DrawOnImage(state, [&](PainterSurface& surface) {
+        const PageLayout page =
+            month.Composed({surface.PageWidth(), surface.PageHeight()}, surface);
+        if (page.LabEvent.size() != FullMonth::kMessages) {
+            state.SkipWithError("the page is not complete");
+        }
+        DoBorder(page, surface);
+        DoPrint(page, kMaxDays, surface);
+    });
 }
 
 // Another size in each frame, as while the picture is sized by hand.
@@ -99,6 +121,8 @@ void OnPaper(benchmark::State& state) {
 }
 
 const AtMost kMonth = AtMost::Seconds(0.05, "draw a month page with 310 texts", OnImage);
+const AtMost kRender =
+    AtMost::Seconds(0.05, "compose and render a month page with 310 messages", ComposeAndRender);
 const AtMost kPaper = AtMost::Seconds(0.05, "draw a month page into a PDF", OnPaper);
 const AtMost kSizing =
     AtMost::Seconds(1.0 / 60, "a picture of 12 megapixels in a new size", Sizing);

@@ -84,7 +84,8 @@ kestrova::PageLayout OpenedPage() {
     return page;
 }
 
-void Draw(kestrova::PageLayout page) {
+// Lays the page out as it is when it is opened, and draws it.
+void LayOutAndDraw(kestrova::PageLayout& page) {
     static const kestrova::AppSettings settings;
     static const kestrova::DiaryTable table;
     Surface surface;
@@ -92,6 +93,15 @@ void Draw(kestrova::PageLayout page) {
     kestrova::DoControls(page, month, surface, kestrova::FirstLayout::No);
     kestrova::DoBorder(page, surface);
     kestrova::DoPrint(page, kestrova::kMaxDays, surface);
+}
+
+// Its labels beyond those that a page has room for are gone, so all goes well now.
+void CheckWritten(const kestrova::PageLayout& page, Pictures& pictures) {
+    const std::string written = kestrova::WriteLayout(page);
+    kestrova::PageLayout again = OpenedPage();
+    const auto back = kestrova::ReadLayout(written, again, pictures);
+    Expect(back.ToTheEnd && back.Trouble.Ok(), "a layout that was read can be written");
+    Expect(kestrova::WriteLayout(again) == written, "and is the same then");
 }
 
 } // namespace
@@ -102,14 +112,12 @@ int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     const auto reading = kestrova::ReadLayout(kestrova::fuzz::View(data, size), page, pictures);
     Expect(reading.ToTheEnd || !reading.Trouble, "what is not whole is told");
     CheckPage(page);
-    Draw(page);
     if (reading.ToTheEnd) {
-        const std::string written = kestrova::WriteLayout(page);
-        kestrova::PageLayout again = OpenedPage();
-        const auto back = kestrova::ReadLayout(written, again, pictures);
-        // Its labels beyond those that a page has room for are gone, so all goes well now.
-        Expect(back.ToTheEnd && back.Trouble.Ok(), "a layout that was read can be written");
-        Expect(kestrova::WriteLayout(again) == written, "and is the same then");
+        CheckWritten(page, pictures);
+    }
+    LayOutAndDraw(page);
+    if (reading.ToTheEnd) {
+        CheckWritten(page, pictures);
     }
     return 0;
 }

@@ -34,13 +34,13 @@ PageSize AddedSize(const PagePicture& picture) {
 } // namespace
 
 LayoutRef AddPicture(PageLayout& page, const std::string& path, PagePicturePtr picture) {
-    const PageSize size = picture ? AddedSize(*picture) : PageSize{kHighest, kHighest};
-    LayoutItem& item = page.ImgUser.emplace_back();
-    item.Width = size.Width;
-    item.Height = size.Height;
-    item.Picture = std::move(picture);
-    const auto index = static_cast<int>(page.ImgUser.size());
+    const auto index = static_cast<int>(page.ImgUser.size()) + 1;
     if (index <= kMaxImagePaths) {
+        const PageSize size = picture ? AddedSize(*picture) : PageSize{kHighest, kHighest};
+        LayoutItem& item = page.ImgUser.emplace_back();
+        item.Width = size.Width;
+        item.Height = size.Height;
+        item.Picture = std::move(picture);
         page.ImagePaths[static_cast<std::size_t>(index)] = path;
     }
     return {LayoutKind::ImgUser, index};

@@ -12,7 +12,8 @@ namespace kestrova {
 // What the user adds to a page.
 
 // Adds a picture at the top left: its own size at 96 pixels an inch, scaled down to 2000 twips high
-// and then to 5000 wide where it is larger. An empty one gets a box of 2000 by 2000.
+// and then to 5000 wide where it is larger. An empty one gets a box of 2000 by 2000. When there
+// are kMaxImagePaths already, none is added, and the reference finds nothing.
 LayoutRef AddPicture(PageLayout& page, const std::string& path, PagePicturePtr picture);
 
 // Adds a text "New Text" of this style at the top left, sized to its text. When there are

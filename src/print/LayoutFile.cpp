@@ -43,11 +43,13 @@ public:
     }
 
     void Box(const LayoutItem& item) {
+        const int left = std::clamp(item.Left, -kFarthestTwip, kFarthestTwip);
+        const int top = std::clamp(item.Top, -kFarthestTwip, kFarthestTwip);
         Flag(item.Enabled);
-        Number(item.Left);
-        Number(item.Top);
-        Number(item.Width);
-        Number(item.Height);
+        Number(left);
+        Number(top);
+        Number(std::clamp(item.Width, 0, std::min(kFarthestTwip, kFarthestTwip - left)));
+        Number(std::clamp(item.Height, 0, std::min(kFarthestTwip, kFarthestTwip - top)));
     }
 
     void Full(const LayoutItem& item) {
@@ -233,7 +235,11 @@ LayoutReading ReadLayout(std::string_view bytes, PageLayout& page, PagePictures&
 bool IsReadable(std::string_view bytes) {
     PageLayout page;
     AnyPictures pictures;
-    return bytes.size() <= kLayoutFileLimit && ReadLayout(bytes, page, pictures).ToTheEnd;
+    if (bytes.size() > kLayoutFileLimit) {
+        return false;
+    }
+    const LayoutReading reading = ReadLayout(bytes, page, pictures);
+    return reading.ToTheEnd && reading.Trouble;
 }
 
 } // namespace kestrova

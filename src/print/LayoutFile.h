@@ -29,14 +29,15 @@ namespace kestrova {
 inline constexpr std::size_t kLayoutFileLimit = std::size_t{2} << 20U;
 inline constexpr std::size_t kLayoutTextLimit = std::size_t{32} << 10U;
 
-// Ranges of the numbers: positions lie this far from the page's corner at most (17 metres), sizes
-// are not below 0, fonts have 1 to 1638 points, colours are those of the screen.
+// Ranges of the numbers: all edges of a box lie this far from the page's corner at most (17
+// metres), sizes are not below 0, fonts have 1 to 1638 points, colours are those of the screen.
 inline constexpr int kFarthestTwip = 1'000'000;
 inline constexpr int kLargestFontSize = 1638;
 inline constexpr std::int32_t kLastColour = 0xFFFFFF;
 
 // The bytes of the file. A double quote in a text would end it, so it is written as a typographic
-// one, opening and closing ones in turn.
+// one, opening and closing ones in turn. A box that lies farther away than boxes are read, as the
+// composer may have put it, is written as far away as they are.
 [[nodiscard]] std::string WriteLayout(const PageLayout& page);
 
 struct LayoutReading {
@@ -54,8 +55,9 @@ struct LayoutReading {
 [[nodiscard]] LayoutReading ReadLayout(std::string_view bytes, PageLayout& page,
                                        PagePictures& pictures);
 
-// Whether the bytes of a layout can be read again, pictures aside. What cannot, such as a text of
-// more than kLayoutTextLimit bytes, is better not written.
+// Whether all that is in the bytes of a layout can be read again, pictures aside. What cannot, such
+// as a text of more than kLayoutTextLimit bytes or more than kMaxLabels messages and texts
+// together, is better not written.
 [[nodiscard]] bool IsReadable(std::string_view bytes);
 
 } // namespace kestrova

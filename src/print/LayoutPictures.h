@@ -16,7 +16,7 @@ namespace kestrova {
 class LayoutPictures : public PagePictures {
 public:
     struct Limits {
-        std::chrono::milliseconds Time{10'000};
+        std::chrono::milliseconds Time{3'000}; // while the user waits
         std::int64_t Pixels = std::int64_t{256} << 20U;
     };
 

@@ -119,7 +119,8 @@ bool LayoutValues::Box(LayoutItem& item) {
     item.Fitted = false; // the sizes of a layout are the user's
     return Flag(item.Enabled) && Number(item.Left, -kFarthestTwip, kFarthestTwip) &&
            Number(item.Top, -kFarthestTwip, kFarthestTwip) &&
-           Number(item.Width, 0, kFarthestTwip) && Number(item.Height, 0, kFarthestTwip);
+           Number(item.Width, 0, std::min(kFarthestTwip, kFarthestTwip - item.Left)) &&
+           Number(item.Height, 0, std::min(kFarthestTwip, kFarthestTwip - item.Top));
 }
 
 bool LayoutValues::Full(LayoutItem& item) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <utility>
 
 namespace kestrova {
@@ -138,6 +139,14 @@ private:
     // The width of a text; of one that is too wide, what is enough to know that.
     [[nodiscard]] std::int64_t WidthOf(std::string_view text) const {
         std::int64_t width = 0;
+        for (std::size_t some = 2 * kFirstGuess; some < std::min(text.size(), kMeasuredPiece);
+             some *= 2) {
+            width = measure_.TextWidth(font_, text.substr(0, BoundaryAfter(text, some)));
+            if (width > width_) {
+                return width;
+            }
+        }
+        width = 0;
         while (text.size() > kMeasuredPiece && width <= width_) {
             const std::size_t piece = BoundaryAfter(text, kMeasuredPiece);
             width += measure_.TextWidth(font_, text.substr(0, piece));
@@ -176,11 +185,37 @@ private:
     const TextMeasure& measure_;
 };
 
+// Breaks a line to so many lines, as BreakLine does, and adds them to `lines` until there are
+// `stop` in all.
+void AddBroken(std::vector<std::string>& lines, std::string_view line, int most, std::size_t stop,
+               const Breaker& breaker) {
+    for (int count = 1; lines.size() < stop; ++count) {
+        if (breaker.Fits(line)) {
+            lines.emplace_back(line);
+            return;
+        }
+        if (const auto seen = WithoutEndBlanks(line); breaker.Fits(seen)) {
+            lines.emplace_back(seen); // nothing to be seen is left out
+            return;
+        }
+        if (count >= most) {
+            lines.push_back(breaker.Elided(line));
+            return;
+        }
+        const auto cut = breaker.NextLine(line);
+        lines.emplace_back(line.substr(0, cut.End));
+        line.remove_prefix(cut.Next);
+        if (line.empty()) {
+            return;
+        }
+    }
+}
+
 } // namespace
 
-std::vector<std::string> CaptionLines(std::string_view caption) {
+std::vector<std::string> CaptionLines(std::string_view caption, std::size_t first) {
     std::vector<std::string> lines;
-    for (;;) {
+    while (lines.size() < first) {
         const std::size_t feed = caption.find('\n');
         std::string_view line = caption.substr(0, feed);
         if (feed != std::string_view::npos && line.ends_with('\r')) {
@@ -188,54 +223,48 @@ std::vector<std::string> CaptionLines(std::string_view caption) {
         }
         lines.emplace_back(line);
         if (feed == std::string_view::npos) {
-            return lines;
+            break;
         }
         caption.remove_prefix(feed + 1);
     }
+    return lines;
 }
 
 std::vector<std::string> BreakLine(std::string_view line, int width, int most,
                                    const FontChoice& font, const TextMeasure& measure) {
-    const Breaker breaker(width, font, measure);
     std::vector<std::string> lines;
-    while (!breaker.Fits(line)) {
-        if (breaker.Fits(WithoutEndBlanks(line))) {
-            line = WithoutEndBlanks(line); // nothing to be seen is left out
-            break;
-        }
-        if (static_cast<int>(lines.size()) + 1 >= most) {
-            lines.push_back(breaker.Elided(line));
-            return lines;
-        }
-        const auto cut = breaker.NextLine(line);
-        lines.emplace_back(line.substr(0, cut.End));
-        line.remove_prefix(cut.Next);
-        if (line.empty()) {
-            return lines;
-        }
-    }
-    lines.emplace_back(line);
+    AddBroken(lines, line, most, kAllLines, Breaker(width, font, measure));
     return lines;
 }
 
 std::vector<std::string> ItemLines(const LayoutItem& item, LayoutKind kind,
-                                   const TextMeasure& measure) {
-    std::vector<std::string> own = CaptionLines(item.Caption);
+                                   const TextMeasure& measure, std::size_t first) {
+    std::vector<std::string> own = CaptionLines(item.Caption, first);
     const bool breaks = kind == LayoutKind::LabEvent || kind == LayoutKind::LabUser;
     if (!breaks || item.Width <= 0) {
         return own;
     }
     const FontChoice font = item.Font();
+    const Breaker breaker(item.Width, font, measure);
     const int room = item.Height / std::max(1, measure.LineHeight(font));
+    auto below = std::count(item.Caption.begin(), item.Caption.end(), '\n'); // own lines to come
     std::vector<std::string> lines;
-    for (std::size_t i = 0; i < own.size(); ++i) {
-        const int taken = static_cast<int>(lines.size() + own.size() - i - 1);
-        for (std::string& line :
-             BreakLine(own[i], item.Width, std::max(1, room - taken), font, measure)) {
-            lines.push_back(std::move(line));
-        }
+    for (const std::string& line : own) {
+        const auto taken = static_cast<std::int64_t>(lines.size()) + below--;
+        const auto most = static_cast<int>(std::max<std::int64_t>(1, room - taken));
+        AddBroken(lines, line, most, first, breaker);
     }
     return lines;
+}
+
+std::vector<std::string> LinesOnPage(const LayoutItem& item, LayoutKind kind,
+                                     const TextMeasure& measure, int pageHeight) {
+    if (item.Top > pageHeight) {
+        return {};
+    }
+    const std::int64_t room = std::int64_t{pageHeight} - item.Top;
+    const auto first = room / std::max(1, measure.LineHeight(item.Font())) + 1;
+    return ItemLines(item, kind, measure, static_cast<std::size_t>(first));
 }
 
 } // namespace kestrova

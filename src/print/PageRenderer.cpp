@@ -5,7 +5,6 @@
 #include "print/WholeTwips.h"
 
 #include <algorithm>
-#include <span>
 
 namespace kestrova {
 
@@ -35,47 +34,39 @@ void PrintPicture(const LayoutItem& item, DrawingSurface& output) {
     }
 }
 
-enum class Align { Left, Middle };
+// Cells and the names of the days have their lines in the middle, all others at the left.
+int LeftOf(const LayoutItem& item, LayoutKind kind, const std::string& line,
+           const DrawingSurface& output) {
+    const bool middle = kind == LayoutKind::LabDates || kind == LayoutKind::LabDays;
+    return middle ? WholeTwips(std::int64_t{2} * item.Left + item.Width -
+                                   output.TextWidth(item.Font(), line),
+                               2)
+                  : item.Left;
+}
 
-void PrintText(const LayoutItem& item, LayoutKind kind, Align align, DrawingSurface& output) {
-    if (!item.Enabled) {
-        return;
-    }
+void PrintLines(const LayoutItem& item, LayoutKind kind, std::span<const std::string> lines,
+                DrawingSurface& output) {
     const FontChoice font = item.Font();
     const int step = std::max(1, output.LineHeight(font));
     int y = item.Top;
-    for (const std::string& line : ItemLines(item, kind, output)) {
-        if (y > output.PageHeight()) {
-            return; // nothing below is to be seen
-        }
-        if (!line.empty()) {
-            const int x = align == Align::Left
-                              ? item.Left
-                              : WholeTwips(std::int64_t{2} * item.Left + item.Width -
-                                               output.TextWidth(font, line),
-                                           2);
-            output.DrawText(x, y, font, item.ForeColor, line);
+    for (const std::string& line : lines) {
+        const bool above = y < -2 * step; // the page, with all that may stand out of the line
+        if (!line.empty() && !above) {
+            output.DrawText(LeftOf(item, kind, line, output), y, font, item.ForeColor, line);
         }
         y += step;
     }
 }
 
-void PrintImg(const PageLayout& page, DrawingSurface& output) {
-    for (const LayoutItem& picture : page.ImgUser) {
-        PrintPicture(picture, output);
+void PrintText(const LayoutItem& item, LayoutKind kind, bool framed, DrawingSurface& output) {
+    if (item.Enabled) {
+        PrintItem(item, kind, LinesOnPage(item, kind, output, output.PageHeight()), framed, output);
     }
 }
 
 void PrintEvent(std::span<const LayoutItem> family, LayoutKind kind, DrawingSurface& output) {
     for (const LayoutItem& label : family.first(std::min<std::size_t>(family.size(), kMaxLabels))) {
-        PrintText(label, kind, Align::Left, output);
-    }
-}
-
-void PrintDate(const LayoutItem& cell, bool framed, DrawingSurface& output) {
-    PrintText(cell, LayoutKind::LabDates, Align::Middle, output);
-    if (cell.Enabled && framed) {
-        DrawFrame(EdgesOf(cell), {cell.ForeColor, LineStyle::Solid, 1}, output);
+        PrintText(label, kind, false, output);
     }
 }
 
@@ -101,17 +92,34 @@ void DoBorder(const PageLayout& page, DrawingSurface& output) {
     }
 }
 
+void PrintItem(const LayoutItem& item, LayoutKind kind, std::span<const std::string> lines,
+               bool framed, DrawingSurface& output) {
+    if (!item.Enabled) {
+        return;
+    }
+    if (!IsText(kind)) {
+        PrintPicture(item, output);
+        return;
+    }
+    PrintLines(item, kind, lines, output);
+    if (framed) {
+        DrawFrame(EdgesOf(item), {item.ForeColor, LineStyle::Solid, 1}, output);
+    }
+}
+
 void DoPrint(const PageLayout& page, int daysShown, DrawingSurface& output) {
     PrintPicture(page.Image1, output);
     PrintPicture(page.Image2, output);
-    PrintImg(page, output);
-    PrintText(page.LabCurMth, LayoutKind::LabCurMth, Align::Left, output);
+    for (const LayoutItem& picture : page.ImgUser) {
+        PrintPicture(picture, output);
+    }
+    PrintText(page.LabCurMth, LayoutKind::LabCurMth, false, output);
     for (const LayoutItem& name : page.LabDays) {
-        PrintText(name, LayoutKind::LabDays, Align::Middle, output);
+        PrintText(name, LayoutKind::LabDays, false, output);
     }
     const auto days = static_cast<std::size_t>(std::clamp(daysShown, 0, kMaxDays));
     for (const LayoutItem& cell : std::span(page.LabDates).first(days)) {
-        PrintDate(cell, page.GridOn, output);
+        PrintText(cell, LayoutKind::LabDates, page.GridOn, output);
     }
     PrintEvent(page.LabEvent, LayoutKind::LabEvent, output);
     PrintEvent(page.LabUser, LayoutKind::LabUser, output);

@@ -89,6 +89,26 @@ TEST_F(DiaryListingTest, ADayNeedsRoom) {
     }
 }
 
+// Dates in 60 points are 1200 twips high: the first ends at 2100. Below the page's height less 100
+// and 1000, and not at it, its events begin on a new page.
+TEST_F(DiaryListingTest, EventsBelowAHighDateNeedRoom) {
+    month_.Settings.PrintStyles[static_cast<std::size_t>(PrintStyleRole::Date)].Size = 60;
+    month_.Add(1, 1, "one");
+    for (const int spare : {-1, 0}) {
+        SCOPED_TRACE(spare);
+        job_ = {};
+        job_.Size.Height = 2100 + 1100 + spare;
+        List();
+        if (spare == 0) {
+            EXPECT_THAT(Page(1), ElementsAre("4103,500   Month    2026", "100,900 C0", "2100,900 1",
+                                             "3100,2100 09:00", "4480,2100 one"));
+        } else {
+            EXPECT_EQ(Page(1).size(), 3U);
+            EXPECT_THAT(Page(2)[1], "3100,900 09:00");
+        }
+    }
+}
+
 TEST_F(DiaryListingTest, ADayThatRunsPastThePageIsNamedAgainOnTheNext) {
     month_.Add(1, 1, "one");
     month_.Add(1, 2, "two");

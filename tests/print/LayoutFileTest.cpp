@@ -3,8 +3,10 @@
 
 #include "fakes/FakePictures.h"
 #include "print/LayoutPictures.h"
+#include "print/PrintedMonth.h"
 #include "text/Lines.h"
 
+#include <ctime>
 #include <gtest/gtest.h>
 #include <thread>
 
@@ -272,11 +274,59 @@ TEST_F(LayoutFileTest, PicturesAreBoundedInTimeAndPixels) {
 TEST_F(LayoutFileTest, WhatCannotBeReadAgainIsKnown) {
     PageLayout page = FullPage();
     EXPECT_TRUE(IsReadable(WriteLayout(page)));
-    page.LabEvent.assign(400, page.LabEvent[0]);
-    page.LabUser.assign(400, page.LabEvent[0]);
+    page.LabEvent.assign(310, page.LabEvent[0]);
+    page.LabUser.assign(90, page.LabEvent[0]);
     EXPECT_TRUE(IsReadable(WriteLayout(page)));
-    page.LabUser[399].Caption.assign(kLayoutTextLimit + 1, 'x');
+    page.LabUser.push_back(page.LabEvent[0]);
+    EXPECT_FALSE(IsReadable(WriteLayout(page))) << "one would be left out";
+    page.LabUser.resize(90);
+    page.LabUser[89].Caption.assign(kLayoutTextLimit + 1, 'x');
     EXPECT_FALSE(IsReadable(WriteLayout(page)));
+}
+
+TEST_F(LayoutFileTest, TenThousandLabelsAreReadPastInNoTime) {
+    PageLayout page = FullPage();
+    page.LabUser.assign(10'000, page.LabEvent[0]);
+    const std::string bytes = WriteLayout(page);
+    const std::clock_t begin = std::clock();
+    const LayoutReading reading = Read(bytes);
+    EXPECT_LT(std::clock() - begin, 2 * CLOCKS_PER_SEC);
+    ASSERT_FALSE(reading.Trouble);
+    EXPECT_EQ(reading.Trouble.Failure().Code, ErrorCode::TooLarge);
+    EXPECT_TRUE(reading.ToTheEnd);
+    EXPECT_EQ(page_.LabUser.size(), 400U);
+    EXPECT_FALSE(IsReadable(bytes));
+}
+
+// Boxes end where positions do, and what was composed in the farthest ones can be written.
+TEST_F(LayoutFileTest, EdgesBeyondTheFarthestTwipAreNeitherReadNorWritten) {
+    PageLayout page = FullPage();
+    page.Image1.Left = 900'000;
+    page.Image1.Top = -kFarthestTwip;
+    page.Image1.Width = 100'000;
+    page.Image1.Height = kFarthestTwip;
+    std::string bytes = WriteLayout(page);
+    EXPECT_EQ(Fault(bytes), "");
+    EXPECT_EQ(page_.Image1.Left, 900'000);
+    EXPECT_EQ(page_.Image1.Height, kFarthestTwip);
+    const std::string width = "\r\n100000\r\n";
+    bytes.replace(bytes.find(width), width.size(), "\r\n100001\r\n");
+    EXPECT_EQ(Fault(bytes), "line 5");
+
+    page.Image1.Top = 999'000;
+    page.Image1.Height = 1'000;
+    page.LabDays.fill(page.LabDays[0]);
+    for (LayoutItem& name : page.LabDays) {
+        name.Height = kFarthestTwip;
+    }
+    const PrintedMonth month(2026, 1, WeekStart::Monday);
+    DoControls(page, month.Source(), month.Measure, FirstLayout::No);
+    EXPECT_GT(page.LabDates[0].Top, kFarthestTwip);
+    bytes = WriteLayout(page);
+    EXPECT_TRUE(IsReadable(bytes));
+    EXPECT_EQ(Fault(bytes), "");
+    EXPECT_EQ(page_.LabDates[0].Top, kFarthestTwip);
+    EXPECT_EQ(page_.LabDates[0].Height, 0);
 }
 
 } // namespace

@@ -112,6 +112,35 @@ TEST(LineBreaksTest, CharactersAreNeverCut) {
     }
 }
 
+// The first lines are the same, however many are asked for, and no more is measured for them.
+TEST(LineBreaksTest, TheFirstLinesAloneAreThoseOfTheWhole) {
+    for (const int room : {1, 3, 9, 20}) {
+        const LayoutItem item = Item("meet the whole  \r\nfamily\r\n\r\nat the station", 6, room);
+        const auto all = ItemLines(item, LayoutKind::LabUser, FakeMeasure());
+        for (std::size_t first = 0; first <= all.size() + 1; ++first) {
+            EXPECT_THAT(
+                ItemLines(item, LayoutKind::LabUser, FakeMeasure(), first),
+                testing::ElementsAreArray(all.begin(), all.begin() + std::min(first, all.size())))
+                << room << ", " << first;
+        }
+    }
+    std::string words;
+    std::string feeds;
+    for (int i = 0; i < 10'000; ++i) {
+        words += "x ";
+        feeds += "x\r\n";
+    }
+    for (const std::string& caption : {words, feeds}) {
+        const FakeMeasure measure;
+        LayoutItem item = Item(caption, 3, 10'000);
+        item.Top = 100;
+        EXPECT_EQ(LinesOnPage(item, LayoutKind::LabUser, measure, 100 + 9 * kLine).size(), 10U);
+        EXPECT_EQ(LinesOnPage(item, LayoutKind::LabUser, measure, 99 + 9 * kLine).size(), 9U);
+        EXPECT_EQ(LinesOnPage(item, LayoutKind::LabDates, measure, 99).size(), 0U);
+        EXPECT_LT(measure.MeasuredBytes, 10'000U);
+    }
+}
+
 // A text longer than any line is not measured again and again.
 TEST(LineBreaksTest, LongTextsAreMeasuredAsFarAsTheyShow) {
     const FakeMeasure measure;

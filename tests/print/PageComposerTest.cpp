@@ -4,6 +4,7 @@
 #include "print/PrintedMonth.h"
 #include "print/WholeTwips.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 
 namespace kestrova {
@@ -64,6 +65,53 @@ TEST(PageComposerTest, EveryDayStandsInItsColumnAndRow) {
         EXPECT_EQ(Cell(page, 1).Top, 3720);
         EXPECT_EQ(Cell(page, days).Left, left(row.LastColumn));
         EXPECT_EQ(Cell(page, days).Top, 3720 + (row.LastRow - 1) * 1793);
+    }
+}
+
+// What must hold for every day of a page, give or take the twip that rounding takes.
+void CheckCells(const PageLayout& page, int month, int firstWeekday) {
+    const auto first =
+        std::chrono::weekday(std::chrono::sys_days(std::chrono::year(2026) / (month + 1) / 1));
+    const int lead = (static_cast<int>(first.c_encoding()) - firstWeekday + 7) % 7;
+    const LayoutItem& box = page.Image1;
+    for (int day = 1; day <= NofDays(2026, month); ++day) {
+        SCOPED_TRACE(day);
+        const LayoutItem& cell = Cell(page, day);
+        const LayoutItem& name = page.LabDays[static_cast<std::size_t>((lead + day - 1) % 7)];
+        ASSERT_TRUE(cell.Visible);
+        ASSERT_GT(cell.Width, 0);
+        ASSERT_GT(cell.Height, 0);
+        ASSERT_NEAR(cell.Left, name.Left + page.GridSpacing / 2, 1);
+        ASSERT_LE(cell.Left + cell.Width, name.Left + name.Width + 1);
+        ASSERT_GE(cell.Top, name.Top + name.Height);
+        ASSERT_LE(cell.Left + cell.Width, box.Left + box.Width + 1);
+        ASSERT_LE(cell.Top + cell.Height, box.Top + box.Height);
+        const int row = (lead + day - 1) / 7;
+        ASSERT_EQ(cell.Top, page.LabDays[0].Top + 2 * page.LabDays[0].Height +
+                                row * (cell.Height + page.GridSpacing));
+    }
+}
+
+TEST(PageComposerTest, CellsOfAnyMonthLieInTheBoxAndApart) {
+    struct Week {
+        WeekStart Start;
+        int Weekday; // from Sunday
+    };
+    for (const Week& week :
+         {Week{WeekStart::Sunday, 0}, Week{WeekStart::Monday, 1}, Week{WeekStart::Saturday, 6}}) {
+        for (int month = 0; month < 12; ++month) {
+            const PrintedMonth printed(2026, month, week.Start);
+            for (const int spacing : {0, 150, 300, 450, 600}) {
+                for (const int paper : {1, 3, 8, kPaperA4}) { // Letter, Tabloid, A3
+                    for (const auto turned : {Orientation::Portrait, Orientation::Landscape}) {
+                        SCOPED_TRACE(testing::Message() << month << ", " << spacing << ", " << paper
+                                                        << ", " << int(turned));
+                        const PageSize area = PrintableArea({paper, turned});
+                        CheckCells(printed.Composed(nullptr, spacing, area), month, week.Weekday);
+                    }
+                }
+            }
+        }
     }
 }
 

@@ -145,6 +145,12 @@ TEST(PageRendererTest, LinesFollowEachOtherAtTheLeftEdge) {
     EXPECT_THAT(Captions(surface), ElementsAre("one", "three")) << "the page ends at 16538";
     EXPECT_EQ(texts[1].X, 700);
     EXPECT_EQ(texts[1].Y, 16400);
+
+    page.LabUser[0].Top = -1000; // the first lines are above the page
+    surface.All.clear();
+    DoPrint(page, 0, surface);
+    EXPECT_THAT(Captions(surface), ElementsAre("four", "five"));
+    EXPECT_EQ(surface.Texts()[0].Y, -400);
 }
 
 } // namespace

@@ -18,7 +18,7 @@ constexpr QSize kSheet(3508, 2480); // A4 at 300 dots to the inch
 constexpr std::int64_t kMostPixels = std::int64_t{192} << 20;
 
 // A disc that does not answer is not waited for long.
-constexpr std::chrono::seconds kPatience{20};
+constexpr std::chrono::seconds kPatience{3};
 
 std::string StampOf(const QString& path) {
     const QFileInfo file(path);

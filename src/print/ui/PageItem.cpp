@@ -15,18 +15,6 @@ namespace {
 constexpr int kTwipsPerPoint = 20;
 constexpr int kLineRoom = 60; // around a line, for the widest pen
 
-// A page with nothing on it but one object: what draws pages then draws this alone.
-PageLayout PageOf(const LayoutItem& item, LayoutKind kind) {
-    PageLayout page;
-    switch (kind) {
-    case LayoutKind::ImgUser: page.ImgUser = {item}; break;
-    case LayoutKind::LabEvent: page.LabEvent = {item}; break;
-    case LayoutKind::LabUser: page.LabUser = {item}; break;
-    default: *page.Find({kind, 0}) = item; break;
-    }
-    return page;
-}
-
 } // namespace
 
 PageItem::PageItem(LayoutRef ref, const PaperMeasure& measure) : ref_(ref), measure_(measure) {
@@ -35,12 +23,16 @@ PageItem::PageItem(LayoutRef ref, const PaperMeasure& measure) : ref_(ref), meas
 
 void PageItem::Update(const LayoutItem& item, bool gridOn, const PageSize& surface) {
     const bool framed = gridOn && ref_.Kind == LayoutKind::LabDates;
-    if (item == item_ && framed == gridOn_ && surface == surface_) {
+    if (item == item_ && framed == framed_ && surface == surface_) {
         return;
     }
     item_ = item;
-    gridOn_ = framed;
+    framed_ = framed;
     surface_ = surface;
+    lines_.clear();
+    if (IsText(ref_.Kind) && item.Enabled) {
+        lines_ = LinesOnPage(item, ref_.Kind, measure_, surface.Height);
+    }
     if (const QRectF ink = Ink(); ink != ink_) {
         prepareGeometryChange();
         ink_ = ink;
@@ -57,7 +49,7 @@ QRectF PageItem::Ink() const {
     const FontChoice font = item_.Font();
     int width = 0;
     int height = 0;
-    for (const std::string& line : ItemLines(item_, ref_.Kind, measure_)) {
+    for (const std::string& line : lines_) {
         width = std::max(width, measure_.TextWidth(font, line));
         height += measure_.LineHeight(font);
     }
@@ -74,9 +66,7 @@ void PageItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option
         return;
     }
     PainterSurface surface(*painter, measure_, surface_);
-    PageLayout alone = PageOf(item_, ref_.Kind);
-    alone.GridOn = gridOn_;
-    DoPrint(alone, ref_.Kind == LayoutKind::LabDates ? 1 : 0, surface);
+    PrintItem(item_, ref_.Kind, lines_, framed_, surface);
 }
 
 // A picture that could not be read is not printed, but must not lie about unseen either.

@@ -6,6 +6,9 @@
 
 #include <QGraphicsItem>
 
+#include <string>
+#include <vector>
+
 namespace kestrova {
 
 // An object of the page in the layout window, drawn by the steps that print it. Its coordinates are
@@ -27,7 +30,8 @@ private:
     LayoutRef ref_;
     const PaperMeasure& measure_;
     LayoutItem item_;
-    bool gridOn_ = false;
+    std::vector<std::string> lines_; // of a text; breaking them takes its time
+    bool framed_ = false;
     PageSize surface_;
     QRectF ink_;
 };
