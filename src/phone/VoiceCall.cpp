@@ -132,7 +132,8 @@ Reply VoiceCall::HangUp() {
 Reply VoiceCall::HangUpWithGoodbye() {
     HangUp();
     if (!rooms_.Line.Stopped()) {
-        rooms_.Speech.TalkInCall(TextOf(rooms_.Texts, ProgramText::CallGoodbye), AfterSpeaking::Hide);
+        rooms_.Speech.TalkInCall(TextOf(rooms_.Texts, ProgramText::CallGoodbye),
+                                 AfterSpeaking::Hide);
     }
     return Reply::Ok;
 }
