@@ -4,6 +4,7 @@
 #include "FullDiary.h"
 #include "NoDialogs.h"
 #include "ScratchFolder.h"
+#include "fakes/SilentSpeaker.h"
 
 #include "diary/DiaryStore.h"
 #include "mail/ReminderMail.h"
@@ -29,28 +30,6 @@ struct FixedSecond : Clock {
         benchmark::DoNotOptimize(Real.Now());
         return Shown;
     }
-};
-
-struct NoSpeaker : Speaker {
-    [[nodiscard]] std::vector<std::string> Characters() const override { return {}; }
-    bool LoadCharacter() override { return false; }
-    [[nodiscard]] bool AgentLoaded() const override { return false; }
-    [[nodiscard]] bool IsVisible() const override { return false; }
-    void Show() override {}
-    void Hide() override {}
-    void Speak(const std::string& /*text*/) override {}
-    [[nodiscard]] bool IsSpeaking() const override { return false; }
-    [[nodiscard]] Result<SpokenSound> Record(const std::string& /*text*/) override {
-        return Error{ErrorCode::NotFound, "no voice"};
-    }
-    [[nodiscard]] bool StopSpeaking() const override { return false; }
-    void SetStopSpeaking(bool /*stop*/) override {}
-    void Talk(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
-    void TellTime(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
-    [[nodiscard]] int Clicks() const override { return 0; }
-    void BeginCall() override {}
-    void EndCall() override {}
-    void TalkInCall(const std::string& /*text*/, AfterSpeaking /*after*/) override {}
 };
 
 struct NoCaller : PhoneCaller {
@@ -118,7 +97,7 @@ struct Running {
     DiaryFiles OnDisc{Files, Time};
     FolderProbe Probe{Folder, [](const std::string& /*other*/) { return false; }};
     DiaryStore Store{OnDisc, Boxes, Texts, Probe, [] {}};
-    NoSpeaker Speech;
+    SilentSpeaker Speech;
     NoCaller Phone;
     NoMail Mail;
     NoMedia Media;
